@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string_view>
+
+namespace torvenhall
+{
+
+/// What a loading of the education window makes of its two buttons.
+struct EducationButtons {
+    std::string_view school, courses;             ///< captions of Command1 and Command2
+    bool schoolDone = false, coursesDone = false; ///< to be disabled
+};
+EducationButtons LoadEducation();
+
+void ToggleSchool();
+void ToggleCourses();
+
+} // namespace torvenhall

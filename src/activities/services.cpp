@@ -1,0 +1,113 @@
+#include "activities/services.h"
+
+#include <array>
+
+#include "core/GameState.h"
+#include "core/errors.h"
+#include "core/outside.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+/// Its amount is the service's own price.
+constexpr Change Pay{Stat::Money, 0};
+
+constexpr Change Mood(int change)
+{
+    return {Stat::Happy, change};
+}
+
+constexpr Change Cure(int change)
+{
+    return {Stat::Health, change};
+}
+
+constexpr Change Food(int change)
+{
+    return {Stat::EatLevel, change};
+}
+
+constexpr std::array EntertainmentServices{
+    Service{"В казино - +20% - $25", 25, {Pay, Mood(20)}},
+    Service{"В ресторан - +25% - $50", 50, {Pay, Mood(25)}},
+    Service{"В сауну - +50% - $75", 75, {Pay, Mood(50)}},
+    Service{"5 мин. отдых - +5% - $5", 5, {Pay, Mood(5)}},
+    Service{"Перерыв - +10% - $15", 15, {Pay, Mood(10)}},
+};
+static_assert(EntertainmentServices.size() == 5);
+
+constexpr std::array HospitalServices{
+    Service{"Полный курс - +50% - $250", 250, {Cure(50), Pay}},
+    Service{"Лекарства - +15% - $100", 100, {Cure(15), Pay}},
+    Service{"Вывих - +2% - $20", 20, {Cure(2), Pay}},
+    Service{"Осмотр - +0% - $2", 2, {Cure(0), Pay}},
+    Service{"Роды - + 75% - 50%h - $250", 250, {Cure(75), Mood(-50), Pay}},
+    Service{"Выпить водки - +10 - $20", 20, {Cure(10), Pay}},
+    Service{"Выпить спирта+10+10h $25", 25, {Cure(10), Pay, Mood(10)}},
+};
+static_assert(HospitalServices.size() == 7);
+
+constexpr std::array FoodShopServices{
+    Service{"Биг-Мак с сыром - +10% - $15", 15, {Food(10), Pay}},
+    Service{"Хэппи-Мил с детьми +20%-$45- -15%h", 45, {Food(20), Pay, Mood(-15)}},
+    Service{"Альпен Гольд с Нескафе - +50 $120", 120, {Food(50), Pay}},
+    Service{"Яичница с чесноком +15%-$10-20%h", 10, {Food(15), Pay, Mood(-20)}},
+    Service{"Просто нормально пожрать +75%-$60", 60, {Food(75), Pay}},
+};
+static_assert(FoodShopServices.size() == 5);
+
+} // namespace
+
+const ServiceWindow Entertainment{
+    "Развлечения",           "HAPPY",          "Что желаете?", "Безопастный отдых",
+    "Вам это не по карману", "Тонкий кошелёк", true,           EntertainmentServices,
+};
+
+const ServiceWindow Hospital{
+    "Госпиталь",
+    "HOSP",
+    "Без взяток:",
+    "Лечиться -- не учиться!",
+    "Доктор Картер: Извините, но мы лечем только за деньги",
+    "Центральная клиническая больница",
+    false,
+    HospitalServices,
+};
+
+const ServiceWindow FoodShop{
+    "Магазин",
+    "SHOP",
+    "Заправка",
+    "What are you wating for...",
+    "Шеф-Повор: А ну убирайся отсюда!!!!!!",
+    "Идиот!",
+    false,
+    FoodShopServices,
+};
+
+bool CanAfford(const ServiceWindow& window, const Service& service)
+{
+    const Int32 left = GameState.Money - service.price;
+    return window.needsMoreThanPrice ? left > 0 : left >= 0;
+}
+
+void BuyService(const ServiceWindow& window, std::size_t index)
+{
+    const Service& service = window.services[index];
+    bool affordable = false;
+    Trapped([&] { affordable = CanAfford(window, service); });
+    if (!affordable) {
+        MsgBox(window.refusal, window.refusalTitle, Icon::Information);
+        return;
+    }
+    for (const Change& change : service.changes) {
+        Trapped([&] {
+            Apply(change.stat == Stat::Money ? Change{Stat::Money, -service.price} : change);
+        });
+    }
+}
+
+} // namespace torvenhall

@@ -1,0 +1,55 @@
+#include "activities/virus.h"
+
+#include <string>
+
+#include "core/basGame.h"
+#include "core/errors.h"
+#include "core/outside.h"
+#include "system/convert.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+double Loss()
+{
+    return Round(GameState.Money.value() / 20.0);
+}
+
+void Tell(const std::string& text)
+{
+    MsgBox(text, "Сообщение", Icon::Exclamation);
+}
+
+/// The charge is computed again: the money may have changed while the box
+/// was open.
+void LoseMoney(const std::string& beforeSum)
+{
+    Tell(beforeSum + DecimalOf(Loss()) + " баксов!");
+    SetMoney(ToInt32(GameState.Money.value() - Loss()));
+}
+
+} // namespace
+
+void FightVirus()
+{
+    // The value to reseed from is drawn from the generator itself, on purpose.
+    Randomize(Rnd() * 10.0F);
+    const Int16 luck = ToInt16(Round(double{Rnd()} * 10));
+    if (GameState.SoftAntivirus <= 0) {
+        LoseMoney("Нет у вас антивируса! Вирус сожрал ");
+    } else if (luck > 5) {
+        Tell("Поздравляю! Вирус убит!");
+    } else {
+        LoseMoney("Не повезло! Он сожрал ");
+    }
+}
+
+void ReleaseVirus()
+{
+    LoseMoney("Вирус сожрал ");
+}
+
+} // namespace torvenhall

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace torvenhall
+{
+
+/// Fights the virus with the antivirus; tells how it went. A lost fight costs
+/// a twentieth of the money.
+void FightVirus();
+/// Lets the virus go; it costs a twentieth of the money.
+void ReleaseVirus();
+
+} // namespace torvenhall

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QApplication>
+
+namespace torvenhall
+{
+
+/// The toolkit's application, set up as this game wants it on every desktop.
+class Application : public QApplication
+{
+public:
+    /// What must be said before the toolkit starts.
+    static void Prepare();
+    Application(int& argc, char** argv);
+
+    /// The last net: an exception that reaches the event loop is reported and
+    /// the game goes on, where the toolkit would abort.
+    bool notify(QObject* receiver, QEvent* event) override;
+};
+
+} // namespace torvenhall

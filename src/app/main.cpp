@@ -1,0 +1,72 @@
+// Builds the pieces, connects them and hands control to the game's own logic.
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTimer>
+
+#include <random>
+
+#include "app/application.h"
+#include "app/tour.h"
+#include "core/entry.h"
+#include "core/newgame.h"
+#include "core/random.h"
+#include "system/basSystem.h"
+#include "ui/support/QtFrontEnd.h"
+#include "ui/support/metrics.h"
+#include "ui/support/text.h"
+#include "ui/support/theme.h"
+
+namespace
+{
+
+struct Options {
+    double fontPoints;
+    QString tourFolder; ///< empty: play
+};
+
+Options ReadOptions(const QCoreApplication& application)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Torvenhall 1.5");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption font("font-size", "Size of the desktop font in points.", "points");
+    const QCommandLineOption tour("tour", "Save a picture of every window in a folder.", "folder");
+    parser.addOptions({font, tour});
+    parser.process(application);
+    const double points = parser.value(font).toDouble();
+    // The tour runs from wherever its pictures are wanted.
+    const QString folder = parser.value(tour);
+    return {points > 0 ? points : torvenhall::DesktopFontPoints(),
+            folder.isEmpty() ? folder : QDir::current().absoluteFilePath(folder)};
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    using namespace torvenhall;
+
+    Application::Prepare();
+    Application application(argc, argv);
+    const Options options = ReadOptions(application);
+    SetDesktopFontPoints(options.fontPoints);
+    ApplyTheme(application);
+    FindDirectories("../share/torvenhall");
+
+    const bool touring = !options.tourFolder.isEmpty();
+    constexpr double tourPace = 40; // its waits are not to be sat through
+    QtWallClock clock(touring ? tourPace : 1);
+    RandomDice dice(std::random_device{}());
+    QtFrontEnd frontEnd(clock);
+    Connect({&frontEnd, &dice, &clock});
+    QTimer::singleShot(0, &application, [&] {
+        if (touring) {
+            QCoreApplication::exit(TakeTour(frontEnd, options.tourFolder));
+        } else {
+            EnterRules(Main);
+        }
+    });
+    return application.exec();
+}

@@ -1,0 +1,232 @@
+#include "app/tour.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QEventLoop>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTimer>
+
+#include "activities/work.h"
+#include "core/basGame.h"
+#include "core/clock.h"
+#include "core/entry.h"
+#include "core/outside.h"
+#include "core/timelabel.h"
+#include "equipment/basEquipment.h"
+#include "events/family.h"
+#include "network/network.h"
+#include "ui/frmLang.h"
+#include "ui/frmMain.h"
+#include "ui/support/QtFrontEnd.h"
+#include "ui/support/gamewindow.h"
+#include "ui/support/text.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+constexpr int SettleMilliseconds = 120;
+
+constexpr std::string_view LongMessage =
+    "Сообщение от майора милиции Treivaib: Сынок, ты попал на такие налоги!!!! Ты вчера вывел свою "
+    "жену под Ниогарский Водопад, т.к. она тебе изменила, но чтобы ты её не убил вооще, она тебе "
+    "дала $150 (какая жена твоя богатая)!!!";
+
+class Tour
+{
+public:
+    Tour(QtFrontEnd& newFrontEnd, const QString& folder) : frontEnd(newFrontEnd), directory(folder)
+    {
+        directory.mkpath(".");
+    }
+
+    int Take()
+    {
+        VisitNameDialog();
+        VisitMain();
+        for (const Window window : {Window::frmHard, Window::frmSoft, Window::frmHappy,
+                                    Window::frmHospital, Window::frmShop, Window::frmWork,
+                                    Window::frmEducation, Window::frmAbout, Window::frmPause}) {
+            Visit(window);
+        }
+        VisitNetwork();
+        VisitBlocking("frmVirus", [] { ShowVirusWindow(); });
+        VisitGameNames();
+        VisitBoxes();
+        frmLang languages(nullptr);
+        languages.show();
+        Save("frmLang", &languages);
+        return failed ? 1 : 0;
+    }
+
+private:
+    static void Settle(int milliseconds = SettleMilliseconds)
+    {
+        QEventLoop loop;
+        QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+
+    void Save(const QString& name, QWidget* window)
+    {
+        Settle();
+        if (!window || !window->grab().save(directory.filePath(name + ".png"))) {
+            failed = true;
+        }
+    }
+
+    /// Runs a call that waits, photographs what it opens and closes that.
+    void VisitBlocking(const QString& name, const std::function<void()>& call)
+    {
+        QTimer::singleShot(0, qApp, [this, name] {
+            QWidget* opened = QApplication::activeModalWidget();
+            Save(name, opened);
+            if (auto* dialog = qobject_cast<QDialog*>(opened)) {
+                dialog->done(QDialog::Rejected);
+            }
+        });
+        EnterRules(call);
+    }
+
+    void VisitNameDialog()
+    {
+        VisitBlocking("frmPlayerName", [] { AskName({"Введите Ваше имя", 1}); });
+    }
+
+    static void LiveAwhile()
+    {
+        SetMoney(4210);
+        SetHappy(62);
+        SetEatLevel(-24);
+        SetHealth(-12);
+        SetIntelligence(80);
+        SetEducation(5);
+        SetWork(10);
+        Int16 level = 1;
+        SetGameLevel(level);
+        SetGameSpeed(30);
+        SetSoftSize(127);
+        GameState.WifeFound = GameState.Married = True;
+        GameState.Sons = 1;
+        GameState.Daughters = 2;
+        ShowFamily();
+        constexpr int hardware[] = {9, 7, 7, 7, 5, 6, 6, 6, 2};
+        for (int category = 0; category < 9; ++category) {
+            InstallHardware(category, hardware[category], false);
+        }
+        constexpr int software[] = {4, 2, 3, 4, 3, 6};
+        for (int category = 0; category < 6; ++category) {
+            InstallSoftware(category, software[category]);
+        }
+        GameState.GameDate = MakeDate(28, 9, 2001);
+        GameState.GameTime = MakeTime(23, 30);
+        ShowTime();
+    }
+
+    void VisitMain()
+    {
+        EnterRules([this] {
+            LiveAwhile();
+            frontEnd.EnableTimer(false);
+            ShowLabel(Label::lblMessage, LongMessage);
+            frontEnd.SetMainTitle("Marshend Torvenhall 1.5 - Игрок");
+            frontEnd.ShowMainWindow();
+        });
+        frmMain& main = frontEnd.MainWindow();
+        Save("frmMain", &main);
+        for (QAction* action : main.menuBar()->actions()) {
+            QMenu* menu = action->menu();
+            menu->popup(
+                main.menuBar()->mapToGlobal(main.menuBar()->actionGeometry(action).bottomLeft()));
+            Save("menu-" + menu->actions().first()->objectName(), menu);
+            menu->close();
+        }
+    }
+
+    void Visit(Window window)
+    {
+        EnterRules([this, window] { frontEnd.OpenWindow(window); });
+        const QString name = Text(WindowName(window));
+        Save(name, Opened(name));
+        frontEnd.CloseWindow(window);
+    }
+
+    static GameWindow* Opened(const QString& name)
+    {
+        for (QWidget* each : QApplication::topLevelWidgets()) {
+            if (each->isVisible() && each->objectName() == name) {
+                return qobject_cast<GameWindow*>(each);
+            }
+        }
+        return nullptr;
+    }
+
+    void VisitNetwork()
+    {
+        Visit(Window::frmNetwork);
+        EnterRules([this] { frontEnd.OpenWindow(Window::frmNetwork); });
+        EnterRules(DialInternet);
+        GameWindow* window = Opened("frmNetwork");
+        for (int i = 0; window && i < 3; ++i) {
+            window->findChild<QAbstractButton*>(QString("cmdChangeLocation%1").arg(i))->click();
+            if (i == 2) {
+                window->findChild<QAbstractButton*>("cmdRnd")->click();
+            }
+            Save(QString("frmNetwork-site%1").arg(i), window);
+        }
+        frontEnd.CloseWindow(Window::frmNetwork);
+    }
+
+    void VisitGameNames()
+    {
+        GameNameQuestion question{
+            true, "Сохранение игры", "Доступные игры:", "Сохранить", "вечер", {}};
+        for (int i = 1; i <= 12; ++i) {
+            question.games.push_back("игра " + std::to_string(i));
+        }
+        VisitBlocking("frmLocGame-save", [&] { AskGameName(question); });
+        question = {false, "Загрузка игры", "Доступные игры:", "Загрузить", "", question.games};
+        VisitBlocking("frmLocGame-load", [&] { AskGameName(question); });
+    }
+
+    void VisitBoxes()
+    {
+        VisitBlocking("InputBox", [] { InputBox("Введите чит:", "Torvenhall 1.5"); });
+        VisitBlocking("box-question", [] {
+            MsgBox("Сохранить игру сейчас???", "Вопрос", Icon::Question, Buttons::YesNo);
+        });
+        VisitBlocking("box-information",
+                      [] { MsgBox("Вам это не по карману", "Тонкий кошелёк", Icon::Information); });
+        VisitBlocking("box-long", [] {
+            MsgBox(
+                "Приобретите компьютер с Windows 98 и Adobe Photoshop 6 и сканером Mustek 600 CP, "
+                "станьте Ламером и поумнейте до 60%",
+                "Нифига!", Icon::Information);
+        });
+        VisitBlocking("box-exclamation",
+                      [] { MsgBox("Введите корректное имя", "Внимание", Icon::Exclamation); });
+        VisitBlocking("box-critical", [] {
+            MsgBox("Error 48: Picture not Exist or Data Damage Error", "JPEGInside Critical Error",
+                   Icon::Critical);
+        });
+    }
+
+    QtFrontEnd& frontEnd;
+    QDir directory;
+    bool failed = false;
+};
+
+} // namespace
+
+int TakeTour(QtFrontEnd& frontEnd, const QString& folder)
+{
+    return Tour(frontEnd, folder).Take();
+}
+
+} // namespace torvenhall

@@ -1,0 +1,169 @@
+#include "core/basGame.h"
+
+#include <array>
+#include <string>
+
+#include "core/life.h"
+#include "core/outside.h"
+#include "system/convert.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+/// One vital statistic; the bounds are meant to be uneven: a mood is shown
+/// light down to -100 though it kills at -75.
+struct Vital {
+    Int16 GameStateRecord::*field;
+    Label label;
+    Int16 warning; ///< red below
+    Int16 fatal;   ///< the life ends at or below
+    std::string_view lastWords, title;
+};
+
+constexpr Vital HealthVital{&GameStateRecord::Health,
+                            Label::lblHealth,
+                            -30,
+                            -50,
+                            "Вы скончались от полученных травм. Время смерти -- ",
+                            "Дана Скали"};
+constexpr Vital EatVital{
+    &GameStateRecord::EatLevel,          Label::lblEat, -20, -35, "Вы умерли голодной смертью!",
+    "Желаю тебе быть большим и тольстым"};
+constexpr Vital HappyVital{&GameStateRecord::Happy,
+                           Label::lblHappy,
+                           -100,
+                           -75,
+                           "Вы спрыгнули с 15 этажа и разбились насмерть!!!",
+                           "Критический уровень настроения"};
+
+std::string Percent(Int16 value)
+{
+    return Decimal(value) + "%";
+}
+
+/// Shows the last box and ends the life; a person dies once.
+void Die(const Vital& vital)
+{
+    if (Running::Now(Running::What::LastBox) || Running::Now(Running::What::NewGame)) {
+        return;
+    }
+    std::string text(vital.lastWords);
+    if (&vital == &HealthVital) {
+        text += TimeText(GameState.GameTime);
+    }
+    {
+        const Running lastBox(Running::What::LastBox);
+        MsgBox(text, vital.title, Icon::Information);
+    }
+    EndLife();
+}
+
+void SetVital(const Vital& vital, Int16 value)
+{
+    GameState.*vital.field = value;
+    ShowLabel(vital.label, Percent(value),
+              value >= vital.warning ? TextColour::LightCyan : TextColour::Red);
+    if (value <= vital.fatal) {
+        Die(vital);
+    }
+}
+
+struct Level {
+    int winMoney;
+    std::string_view caption;
+};
+
+constexpr std::array Levels{
+    Level{30000, "Сложность: Сложная"},
+    Level{10000, "Сложность: Нормальная"},
+    Level{5000, "Сложность: Лёгкая"},
+};
+
+struct Speed {
+    int minutes;
+    std::string_view caption;
+};
+
+constexpr std::array Speeds{
+    Speed{15, "Скорость игры: Медленная"},
+    Speed{30, "Скорость игры: Нормальная"},
+    Speed{60, "Скорость игры: Быстрая"},
+};
+
+constexpr std::array<std::string_view, 8> RankWords{"BEGIN",   "USER",  "GAMER",  "LAMER",
+                                                    "PROG-ER", "ADMIN", "HACKER", "PROF"};
+
+} // namespace
+
+void SetMoney(Int32 value)
+{
+    GameState.Money = value;
+    ShowLabel(Label::lblMoney, "$" + Decimal(value));
+}
+
+void SetHealth(Int16 value)
+{
+    SetVital(HealthVital, value);
+}
+
+void SetEatLevel(Int16 value)
+{
+    SetVital(EatVital, value);
+}
+
+void SetHappy(Int16 value)
+{
+    SetVital(HappyVital, value);
+}
+
+void SetEducation(Int16 value)
+{
+    ShowLabel(Label::lblStatus, ShowStatus(value));
+    GameState.Education = value;
+}
+
+void SetIntelligence(Int16 value)
+{
+    GameState.Intelligence = value;
+    ShowLabel(Label::lblEducation, Percent(value));
+}
+
+std::string_view ShowStatus(Int16 rank)
+{
+    if (rank < 1 || rank > static_cast<int>(RankWords.size())) {
+        return {};
+    }
+    return RankWords[static_cast<std::size_t>(rank.value() - 1)];
+}
+
+void SetGameLevel(Int16& level)
+{
+    if (level == -1) {
+        MsgBox("Вы не выбрали уровень сложности игры. Сложность будет установлена по-умелчанию "
+               "(нормальная)",
+               "Ты чё, ослеп???", Icon::Exclamation);
+        level = 1;
+    }
+    if (level < 0 || level >= static_cast<int>(Levels.size())) {
+        return;
+    }
+    const Level& chosen = Levels[static_cast<std::size_t>(level.value())];
+    GameState.WinMoney = chosen.winMoney;
+    GameState.GameLevel = level;
+    ShowLabel(Label::lblGameLevel, chosen.caption);
+}
+
+void SetGameSpeed(Int16 speed)
+{
+    GameState.GameSpeed = speed;
+    for (const Speed& known : Speeds) {
+        if (speed == known.minutes) {
+            ShowLabel(Label::lblGameSpeed, known.caption);
+        }
+    }
+}
+
+} // namespace torvenhall

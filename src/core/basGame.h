@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string_view>
+
+#include "core/GameState.h"
+
+namespace torvenhall
+{
+
+// The statistics' setters: each stores the value and shows it in the main
+// window. Nothing is clamped. A vital statistic at or below its fatal bound
+// shows the death box and ends the life (LifeEnd).
+
+void SetMoney(Int32 value);
+void SetHealth(Int16 value);
+void SetEatLevel(Int16 value);
+void SetHappy(Int16 value);
+/// The status rank; the label shows ShowStatus(value).
+void SetEducation(Int16 value);
+/// Percent.
+void SetIntelligence(Int16 value);
+
+/// The rank's word, empty outside 1..8.
+std::string_view ShowStatus(Int16 rank);
+
+/// Difficulty 0 hard, 1 normal, 2 easy: sets WinMoney, GameLevel and the
+/// caption; other values change nothing. -1 (nothing selected) tells the
+/// player and becomes 1, for the caller too.
+void SetGameLevel(Int16& level);
+/// Game minutes per tick; always stored, the caption knows 15, 30 and 60.
+void SetGameSpeed(Int16 speed);
+
+} // namespace torvenhall

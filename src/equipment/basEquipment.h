@@ -1,0 +1,27 @@
+#pragma once
+
+#include "core/GameState.h"
+#include "core/port.h"
+
+namespace torvenhall
+{
+
+/// The field of GameState for a category 0..8 or 0..5; error 9 outside.
+Int16& HardwareField(Int16 category);
+Int16& SoftwareField(Int16 category);
+
+/// Puts a part into its slot, for its full price if `pay` is set: refused
+/// with a box when the money does not reach. Errors are reported.
+void InstallHardware(Int16 category, Int16 index, bool pay);
+
+/// Installs an item if its requirements are met; otherwise tells them and
+/// returns false. An index outside the list does nothing and returns false.
+bool InstallSoftware(Int16 category, Int16 index);
+
+/// Shows and stores the size of the other software, megabytes.
+void SetSoftSize(Int16 megabytes);
+
+/// The sum of the nine installed indices; 59 is a complete computer.
+Int16 HardwareScore();
+
+} // namespace torvenhall

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "system/checked.h"
+
+namespace torvenhall
+{
+
+/// What a shop's button for one category shows.
+struct Offer {
+    std::string caption;
+    bool available = true; ///< false once the list's last item is installed
+    int price = 0;         ///< dollars
+};
+
+Offer HardwareOffer(Int16 category);
+Offer SoftwareOffer(Int16 category);
+
+/// The next item of the category: bought, or refused with a box.
+void BuyNextHardware(Int16 category);
+void InstallNextSoftware(Int16 category);
+
+} // namespace torvenhall

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "core/port.h"
+#include "system/convert.h"
+
+namespace torvenhall
+{
+
+/// A whole number 0..sides drawn by rounding: the two ends are half as likely
+/// as the rest.
+inline Int16 Draw(int sides)
+{
+    return ToInt16(Round(double{Rnd()} * sides));
+}
+
+} // namespace torvenhall

@@ -1,0 +1,222 @@
+#include "savegame/savegame.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "activities/work.h"
+#include "core/basGame.h"
+#include "core/errors.h"
+#include "core/life.h"
+#include "core/outside.h"
+#include "core/timelabel.h"
+#include "equipment/basEquipment.h"
+#include "equipment/catalogue.h"
+#include "events/family.h"
+#include "savegame/format.h"
+#include "system/basSystem.h"
+#include "system/text.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+constexpr std::string_view Extension = ".QVS";
+
+std::string SaveFolder()
+{
+    return DataDirectory() + "SAVE";
+}
+
+std::string SavePath(const std::string& file)
+{
+    return AddBackslash(SaveFolder()) + file;
+}
+
+std::string FileOf(const std::string& name)
+{
+    return name + std::string(Extension);
+}
+
+/// The files of the saved games, whatever the case of their extension; of two
+/// that differ in nothing else, the one that saving writes comes first.
+std::vector<std::string> SavedFiles()
+{
+    std::vector<std::string> files = FileNames(SaveFolder());
+    std::erase_if(files, [](const std::string& file) {
+        return file.size() <= Extension.size() || !FoldCase(file).ends_with(FoldCase(Extension));
+    });
+    return files;
+}
+
+std::optional<std::string> AskForSaving(const std::string& name)
+{
+    return AskGameName({.saving = true,
+                        .caption = "Сохранение игры",
+                        .heading = "Доступные игры:",
+                        .confirm = "Сохранить",
+                        .name = name,
+                        .games = ListSavedGames()});
+}
+
+std::optional<std::string> AskForLoading()
+{
+    return AskGameName({.saving = false,
+                        .caption = "Загрузка игры",
+                        .heading = "Доступные игры:",
+                        .confirm = "Загрузить",
+                        .name = {},
+                        .games = ListSavedGames()});
+}
+
+void WriteGame(const std::string& name)
+{
+    const std::string file = FileOf(name);
+    if (!IsPossibleFileName(file)) {
+        throw RuntimeError{error::BadFileName, {}};
+    }
+    MakeDirectory(SaveFolder());
+    ReplaceFile(SavePath(file), EncodeGame(GameState));
+}
+
+/// A line whose value is shown as soon as it is read.
+struct ShownLine {
+    std::size_t line;
+    void (*set)(GameStateRecord& read);
+};
+
+constexpr std::array ShownLines{
+    ShownLine{2, [](GameStateRecord& read) { SetMoney(read.Money); }},
+    ShownLine{3, [](GameStateRecord& read) { SetHappy(read.Happy); }},
+    ShownLine{25, [](GameStateRecord& read) { SetHealth(read.Health); }},
+    ShownLine{26, [](GameStateRecord& read) { SetEatLevel(read.EatLevel); }},
+    ShownLine{29, [](GameStateRecord& read) { SetEducation(read.Education); }},
+    ShownLine{30, [](GameStateRecord& read) { SetIntelligence(read.Intelligence); }},
+    ShownLine{31, [](GameStateRecord& read) { SetGameLevel(read.GameLevel); }},
+    ShownLine{32, [](GameStateRecord& read) { SetGameSpeed(read.GameSpeed); }},
+    ShownLine{33, [](GameStateRecord& read) { SetSoftSize(read.SoftSize); }},
+};
+
+void ApplyLine(std::size_t line, const std::string& text)
+{
+    const auto shown = std::ranges::find(ShownLines, line, &ShownLine::line);
+    if (shown == ShownLines.end()) {
+        ReadField(GameState, line, text);
+        return;
+    }
+    GameStateRecord read;
+    ReadField(read, line, text);
+    shown->set(read);
+}
+
+constexpr std::array<Label, SoftwareCategories> SoftwareLabels{Label::lblOs,   Label::lblAntiv,
+                                                               Label::lblProg, Label::lblGraphic,
+                                                               Label::lblInet, Label::lblGames};
+
+/// Installs what the fields hold already, so that it is shown and checked.
+void InstallEquipment()
+{
+    for (int category = 0; category < HardwareCategories; ++category) {
+        InstallHardware(category, HardwareField(category), false);
+    }
+    for (int category = 0; category < SoftwareCategories; ++category) {
+        const Int16 saved = SoftwareField(category);
+        if (!InstallSoftware(category, saved)) {
+            // Lost hardware never uninstalls: the program stays.
+            ShowLabel(SoftwareLabels[static_cast<std::size_t>(category)],
+                      GetSoftwareName(category, saved));
+        }
+    }
+}
+
+void ApplyGame(const SavedGame& game)
+{
+    const Running load(Running::What::Load);
+    BeginAnotherLife();
+    ShowLabel(Label::lblMessage, "");
+    for (std::size_t line = 2; line <= game.size(); ++line) {
+        ApplyLine(line, game[line - 1]);
+    }
+    InstallEquipment();
+    ShowFamily();
+    SetWork(GameState.CurrWork);
+    Windows().SetMainTitle(std::string(ApplicationTitle) + " - " + GameState.PlayerName);
+}
+
+/// The file of a listed game.
+std::optional<std::string> PathOf(const std::string& name)
+{
+    const std::vector<std::string> files = SavedFiles();
+    const auto file = std::ranges::find(files, name, StripExtension);
+    if (file == files.end() || !FileExists(SavePath(*file))) {
+        return std::nullopt;
+    }
+    return SavePath(*file);
+}
+
+void LoadNamedGame(const std::string& name)
+{
+    const std::optional<std::string> path = PathOf(name);
+    if (!path) {
+        MsgBox("Файл игры " + FileOf(name) + " не найден!", "Ошибка", Icon::Critical);
+        return;
+    }
+    const SavedGame game = DecodeGame(ReadWholeFile(*path));
+    if (game.front() != ApplicationTitle) {
+        MsgBox("Некорректная версия", "Загрузка игры", Icon::Critical);
+        return;
+    }
+    const RuntimeError failure = ErrorOf([&] { ApplyGame(game); });
+    ShowTime();
+    if (failure.number != 0) {
+        throw failure;
+    }
+}
+
+} // namespace
+
+void SaveGame()
+{
+    Trapped([] {
+        MakeDirectory(SaveFolder());
+        std::string name;
+        for (;;) {
+            const std::optional<std::string> entered = AskForSaving(name);
+            if (!entered || entered->empty()) {
+                return;
+            }
+            name = *entered;
+            const RuntimeError failure = ErrorOf([&] { WriteGame(name); });
+            if (failure.number == 0) {
+                return;
+            }
+            ReportError(failure.number, failure.what);
+        }
+    });
+}
+
+void LoadGame()
+{
+    Trapped([] {
+        const std::optional<std::string> name = AskForLoading();
+        if (name && !name->empty()) {
+            LoadNamedGame(*name);
+        }
+    });
+}
+
+std::vector<std::string> ListSavedGames()
+{
+    std::vector<std::string> names;
+    for (const std::string& file : SavedFiles()) {
+        names.push_back(StripExtension(file));
+    }
+    // A file's name sorts by its extension too.
+    std::ranges::sort(names, {},
+                      [](const std::string& name) { return std::pair(FoldCase(name), name); });
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+    return names;
+}
+
+} // namespace torvenhall

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "system/files.h"
+
+namespace torvenhall
+{
+
+/// The path with one separator at its end: unchanged if it has one already.
+std::string AddBackslash(std::string path, char separator = PathSeparator);
+/// The path without its last character if that is the separator.
+std::string StripBackslash(std::string path, char separator = PathSeparator);
+
+/// Whether the path can be opened for reading as a file. Never raises and
+/// never creates; a folder or a locked file gives false.
+bool FileExists(const std::string& path);
+
+/// The name without its last "." and what follows it.
+std::string StripExtension(std::string_view name);
+
+/// The saved-game transform: every byte one lower (0 becomes 255), and back.
+std::string ShiftCharsDown(std::string bytes);
+std::string ShiftCharsUp(std::string bytes);
+
+/// The system's own folder without a trailing separator; empty where the
+/// platform has none.
+std::string GetWindowsDir();
+
+/// Reads one value of the local machine's settings store as text (a number
+/// becomes "&h" and hexadecimal digits). False when it is missing or the
+/// platform has no such store.
+bool GetKeyValue(const std::string& keyName, const std::string& valueName, std::string& value);
+
+/// Where the shipped files lie (texts, anecdotes), with a trailing separator:
+/// the program's own folder, or the share folder of an installed program.
+const std::string& ProgramDirectory();
+/// Where SAVE and TEMP are made, with a trailing separator: the program's own
+/// folder, or the user's data folder of an installed program.
+const std::string& DataDirectory();
+/// Finds both folders from the program's file; `installedShare` is the share
+/// folder's place relative to the program's folder ("../share/torvenhall").
+void FindDirectories(const std::string& installedShare);
+/// Sets both folders, for tools and tests.
+void SetDirectories(const std::string& shipped, const std::string& data);
+
+} // namespace torvenhall

@@ -1,0 +1,155 @@
+#include "system/files.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+#include "system/errors.h"
+#include "system/platform.h"
+#include "system/text.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+struct Mapping {
+    std::errc failure;
+    int number;
+};
+
+constexpr std::array Mappings{
+    Mapping{std::errc::no_such_file_or_directory, error::FileNotFound},
+    Mapping{std::errc::not_a_directory, error::PathNotFound},
+    Mapping{std::errc::too_many_symbolic_link_levels, error::PathNotFound},
+    Mapping{std::errc::filename_too_long, error::BadFileName},
+    Mapping{std::errc::invalid_argument, error::BadFileName},
+    Mapping{std::errc::illegal_byte_sequence, error::BadFileName},
+    Mapping{std::errc::file_exists, error::FileExists},
+    Mapping{std::errc::no_space_on_device, error::DiskFull},
+    Mapping{std::errc::file_too_large, error::DiskFull},
+    Mapping{std::errc::too_many_files_open, error::TooManyFiles},
+    Mapping{std::errc::too_many_files_open_in_system, error::TooManyFiles},
+    Mapping{std::errc::not_enough_memory, error::OutOfMemory},
+    Mapping{std::errc::read_only_file_system, error::PermissionDenied},
+    Mapping{std::errc::device_or_resource_busy, error::PermissionDenied},
+    Mapping{std::errc::text_file_busy, error::PermissionDenied},
+    Mapping{std::errc::permission_denied, error::PathFileAccess},
+    Mapping{std::errc::operation_not_permitted, error::PathFileAccess},
+    Mapping{std::errc::is_a_directory, error::PathFileAccess},
+    Mapping{std::errc::directory_not_empty, error::PathFileAccess},
+};
+
+int NumberOf(const std::error_code& failure, Sought sought, std::string_view path)
+{
+    const auto found = std::ranges::find_if(
+        Mappings, [&](const Mapping& mapping) { return failure == mapping.failure; });
+    if (found == Mappings.end()) {
+        return error::DeviceInputOutput;
+    }
+    if (found->number != error::FileNotFound) {
+        return found->number;
+    }
+    const fs::path folder = NativePath(path).parent_path();
+    std::error_code ignored;
+    const bool folderIsThere = folder.empty() || fs::is_directory(folder, ignored);
+    return sought == Sought::File && folderIsThere ? error::FileNotFound : error::PathNotFound;
+}
+
+} // namespace
+
+fs::path NativePath(std::string_view utf8)
+{
+    return fs::path(std::u8string(utf8.begin(), utf8.end()));
+}
+
+std::string Utf8Path(const fs::path& path)
+{
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+void RaiseFileError(const std::error_code& failure, Sought sought, std::string_view path)
+{
+    throw RuntimeError{NumberOf(failure, sought, path), {}};
+}
+
+void DeleteFile(const std::string& path)
+{
+    if (IsDirectory(path)) {
+        throw RuntimeError{error::PathFileAccess, {}};
+    }
+    std::error_code failure;
+    const bool removed = fs::remove(NativePath(path), failure);
+    if (failure) {
+        RaiseFileError(failure, Sought::File, path);
+    }
+    if (!removed) {
+        throw RuntimeError{error::FileNotFound, {}};
+    }
+}
+
+bool IsDirectory(const std::string& path)
+{
+    std::error_code ignored;
+    return fs::is_directory(NativePath(path), ignored);
+}
+
+void MakeDirectory(const std::string& path)
+{
+    if (IsDirectory(path)) {
+        return;
+    }
+    std::error_code failure;
+    fs::create_directory(NativePath(path), failure);
+    if (failure) {
+        RaiseFileError(failure, Sought::Folder, path);
+    }
+    // A file of that name is neither success nor failure to some libraries.
+    if (!IsDirectory(path)) {
+        throw RuntimeError{error::PathFileAccess, {}};
+    }
+}
+
+void ChangeDirectory(const std::string& path)
+{
+    std::error_code failure;
+    fs::current_path(NativePath(path), failure);
+    if (failure) {
+        RaiseFileError(failure, Sought::Folder, path);
+    }
+}
+
+std::vector<std::string> FileNames(const std::string& directory)
+{
+    std::vector<std::string> names;
+    std::error_code failure;
+    for (fs::directory_iterator entry(NativePath(directory), failure), end;
+         !failure && entry != end; entry.increment(failure)) {
+        std::error_code unreadable;
+        if (!entry->is_regular_file(unreadable)) {
+            continue;
+        }
+        std::string name = Utf8Path(entry->path().filename());
+        if (IsUtf8(name)) {
+            names.push_back(std::move(name));
+        }
+    }
+    // Names that differ only in case keep one order whatever the folder's is.
+    std::ranges::sort(names, {},
+                      [](const std::string& name) { return std::pair(FoldCase(name), name); });
+    return names;
+}
+
+bool IsPossibleFileName(std::string_view name)
+{
+    constexpr std::string_view separatorsAndNul{"/\\\0", 3};
+    return !name.empty() && name != "." && name != ".." &&
+           name.find_first_of(separatorsAndNul) == std::string_view::npos && IsUtf8(name) &&
+           PlatformTakesFileName(name);
+}
+
+} // namespace torvenhall

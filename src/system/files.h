@@ -1,0 +1,58 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace torvenhall
+{
+
+// Paths are UTF-8 everywhere; files are read and written in binary.
+
+#ifdef _WIN32
+inline constexpr char PathSeparator = '\\';
+#else
+inline constexpr char PathSeparator = '/';
+#endif
+
+/// The whole file. Errors 53 (missing), 70, 75, 76, 57 as the system tells.
+std::string ReadWholeFile(const std::string& path);
+
+/// Replaces the file so that at any moment, a crash or a full disk included,
+/// the path holds either the old bytes or the new ones: writes a temporary
+/// file beside it, flushes it to the disk, renames it over the path and
+/// flushes the folder. Every step is checked; a failed one removes the
+/// temporary file, leaves the old file as it was and raises 52, 57, 61, 70,
+/// 75 or 76. (Only if the very last step fails are the new bytes in place
+/// already.) A write-protected file is not replaced.
+void ReplaceFile(const std::string& path, std::string_view bytes);
+
+/// Writes over the start of the file, which is created if missing and is not
+/// shortened. Errors as above.
+void OverwriteFile(const std::string& path, std::string_view bytes);
+
+void DeleteFile(const std::string& path);
+
+bool IsDirectory(const std::string& path);
+/// Creates one folder; no error if it is there already. Errors 75, 76.
+void MakeDirectory(const std::string& path);
+/// Makes the folder current; error 76 when there is no such folder, 75 when
+/// it may not be entered.
+void ChangeDirectory(const std::string& path);
+
+/// The names of the regular files of a folder, sorted without regard to
+/// case; names that are not UTF-8 are left out. Empty when the folder cannot
+/// be read.
+std::vector<std::string> FileNames(const std::string& directory);
+
+/// Whether the file system takes a file of this name (no folder in it):
+/// not empty, no separator or NUL, not "." or "..", no name reserved by the
+/// system, not too long.
+bool IsPossibleFileName(std::string_view name);
+
+/// The running program's own file, an absolute path.
+std::string ProgramFile();
+/// The user's folder for an application's data, without a trailing separator.
+std::string UserDataDirectory();
+
+} // namespace torvenhall

@@ -1,0 +1,249 @@
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "system/basSystem.h"
+#include "system/platform.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+constexpr mode_t OrdinaryMode = 0666;
+constexpr mode_t PermissionBits = 07777;
+
+/// An open file or folder.
+class Descriptor
+{
+public:
+    Descriptor() = default;
+    explicit Descriptor(int opened) : number(opened) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    Descriptor& operator=(Descriptor&& other) noexcept
+    {
+        std::swap(number, other.number);
+        return *this;
+    }
+    ~Descriptor()
+    {
+        if (number >= 0) {
+            ::close(number);
+        }
+    }
+    int Number() const { return number; }
+    bool IsOpen() const { return number >= 0; }
+    /// Whether closing succeeded: some file systems tell of a failed write
+    /// only here.
+    bool Close() { return ::close(std::exchange(number, -1)) == 0; }
+
+private:
+    int number = -1;
+};
+
+std::error_code LastError()
+{
+    const bool overQuota = errno == EDQUOT;
+    return {overQuota ? ENOSPC : errno, std::generic_category()};
+}
+
+void RaiseUnless(bool succeeded, std::string_view path)
+{
+    if (!succeeded) {
+        RaiseFileError(LastError(), Sought::File, path);
+    }
+}
+
+bool WriteAll(int file, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file, bytes.data(), bytes.size());
+        if (written > 0) {
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        } else if (written == 0 || errno != EINTR) {
+            errno = written == 0 ? EIO : errno;
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Flush(int file)
+{
+    while (::fsync(file) != 0) {
+        if (errno != EINTR) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Some network file systems cannot flush a folder and say so; those order
+/// the rename by themselves.
+bool FlushFolder(int folder)
+{
+    return Flush(folder) || errno == EINVAL || errno == ENOTSUP;
+}
+
+/// A new, empty file that vanishes unless it is renamed.
+class TemporaryFile
+{
+public:
+    explicit TemporaryFile(int inFolder) : folder(inFolder)
+    {
+        // A file left by a killed process of the same number may be in the way.
+        constexpr int attempts = 100;
+        for (int attempt = 0; attempt < attempts && !file.IsOpen(); ++attempt) {
+            name = ".torvenhall-" + std::to_string(::getpid()) + "-" + std::to_string(attempt);
+            file = Descriptor(::openat(folder, name.c_str(),
+                                       O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, OrdinaryMode));
+            if (!file.IsOpen() && errno != EEXIST) {
+                break;
+            }
+        }
+        mustGo = file.IsOpen();
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile()
+    {
+        if (mustGo) {
+            ::unlinkat(folder, name.c_str(), 0);
+        }
+    }
+
+    bool IsOpen() const { return mustGo; }
+    bool Fill(std::string_view bytes)
+    {
+        return WriteAll(file.Number(), bytes) && Flush(file.Number()) && file.Close();
+    }
+    /// Gives it the permissions of the file that it is going to replace. Where
+    /// the file system has none, that is no reason to lose a game.
+    void TakePermissionsOf(const std::string& target)
+    {
+        struct stat old {
+        };
+        if (::fstatat(folder, target.c_str(), &old, 0) == 0) {
+            static_cast<void>(::fchmod(file.Number(), old.st_mode & PermissionBits));
+        }
+    }
+    bool RenameTo(const std::string& target)
+    {
+        const bool renamed = ::renameat(folder, name.c_str(), folder, target.c_str()) == 0;
+        mustGo = !renamed;
+        return renamed;
+    }
+
+private:
+    int folder;
+    std::string name;
+    Descriptor file;
+    bool mustGo = false;
+};
+
+} // namespace
+
+std::string ReadWholeFile(const std::string& path)
+{
+    // Not blocking: a pipe of that name must not stop the game.
+    Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    RaiseUnless(file.IsOpen(), path);
+    std::string bytes;
+    std::array<char, 16384> block;
+    for (;;) {
+        const ssize_t count = ::read(file.Number(), block.data(), block.size());
+        if (count == 0) {
+            return bytes;
+        }
+        if (count > 0) {
+            bytes.append(block.data(), static_cast<std::size_t>(count));
+        } else {
+            RaiseUnless(errno == EINTR, path);
+        }
+    }
+}
+
+void ReplaceFile(const std::string& path, std::string_view bytes)
+{
+    const std::size_t nameAt = path.rfind(PathSeparator) + 1;
+    const std::string folderPath = nameAt == 0 ? "." : path.substr(0, nameAt);
+    const std::string name = path.substr(nameAt);
+
+    // The folder is opened first, so that nothing is in place yet if it cannot
+    // be.
+    Descriptor folder(::open(folderPath.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    RaiseUnless(folder.IsOpen(), path);
+    // A rename would not mind a file that the player has protected.
+    RaiseUnless(
+        ::faccessat(folder.Number(), name.c_str(), W_OK, AT_EACCESS) == 0 || errno == ENOENT, path);
+
+    TemporaryFile temporary(folder.Number());
+    RaiseUnless(temporary.IsOpen(), path);
+    temporary.TakePermissionsOf(name);
+    RaiseUnless(temporary.Fill(bytes), path);
+    RaiseUnless(temporary.RenameTo(name), path);
+    RaiseUnless(FlushFolder(folder.Number()), path);
+}
+
+void OverwriteFile(const std::string& path, std::string_view bytes)
+{
+    Descriptor file(
+        ::open(path.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, OrdinaryMode));
+    RaiseUnless(file.IsOpen(), path);
+    RaiseUnless(WriteAll(file.Number(), bytes) && file.Close(), path);
+}
+
+bool OpensForReading(const std::string& path)
+{
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    return file.IsOpen() && !IsDirectory(path);
+}
+
+bool PlatformTakesFileName(std::string_view name)
+{
+    constexpr std::size_t longest = 255;
+    return name.size() <= longest;
+}
+
+std::string ProgramFile()
+{
+    std::error_code ignored;
+    return Utf8Path(std::filesystem::read_symlink("/proc/self/exe", ignored));
+}
+
+std::string UserDataDirectory()
+{
+    // A relative folder there is to be ignored, by the convention.
+    const char* const data = std::getenv("XDG_DATA_HOME");
+    if (data != nullptr && *data == PathSeparator) {
+        return AddBackslash(data) + "torvenhall";
+    }
+    const char* home = std::getenv("HOME");
+    if (home == nullptr || *home == '\0') {
+        const passwd* const user = ::getpwuid(::getuid());
+        home = user != nullptr ? user->pw_dir : "";
+    }
+    return AddBackslash(home) + ".local/share/torvenhall";
+}
+
+std::string GetWindowsDir()
+{
+    return {};
+}
+
+bool GetKeyValue(const std::string& /*keyName*/, const std::string& /*valueName*/,
+                 std::string& /*value*/)
+{
+    return false;
+}
+
+} // namespace torvenhall

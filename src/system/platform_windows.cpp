@@ -1,0 +1,295 @@
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <system_error>
+#include <utility>
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+
+#include <shlobj.h>
+
+// The system's header renames these.
+#undef DeleteFile
+#undef ReplaceFile
+
+#include "system/basSystem.h"
+#include "system/platform.h"
+#include "system/text.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+std::wstring Wide(std::string_view utf8)
+{
+    return NativePath(utf8).wstring();
+}
+
+std::string Utf8(const std::wstring& wide)
+{
+    return Utf8Path(std::filesystem::path(wide));
+}
+
+struct Meaning {
+    DWORD last;
+    std::errc failure;
+};
+
+// The standard library's own translation knows neither all nor always these.
+constexpr std::array Meanings{
+    Meaning{ERROR_SHARING_VIOLATION, std::errc::device_or_resource_busy},
+    Meaning{ERROR_LOCK_VIOLATION, std::errc::device_or_resource_busy},
+    Meaning{ERROR_WRITE_PROTECT, std::errc::read_only_file_system},
+    Meaning{ERROR_DISK_FULL, std::errc::no_space_on_device},
+    Meaning{ERROR_HANDLE_DISK_FULL, std::errc::no_space_on_device},
+    Meaning{ERROR_DISK_QUOTA_EXCEEDED, std::errc::no_space_on_device},
+    Meaning{ERROR_INVALID_NAME, std::errc::filename_too_long},
+    Meaning{ERROR_FILENAME_EXCED_RANGE, std::errc::filename_too_long},
+    Meaning{ERROR_ACCESS_DENIED, std::errc::permission_denied},
+};
+
+void RaiseUnless(bool succeeded, std::string_view path)
+{
+    if (succeeded) {
+        return;
+    }
+    const DWORD last = ::GetLastError();
+    const auto known = std::ranges::find(Meanings, last, &Meaning::last);
+    const std::error_code failure =
+        known != Meanings.end() ? std::make_error_code(known->failure)
+                                : std::error_code(static_cast<int>(last), std::system_category());
+    RaiseFileError(failure, Sought::File, path);
+}
+
+/// An open file.
+class Handle
+{
+public:
+    explicit Handle(HANDLE opened) : handle(opened) {}
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+    ~Handle()
+    {
+        if (IsOpen()) {
+            ::CloseHandle(handle);
+        }
+    }
+    HANDLE Get() const { return handle; }
+    bool IsOpen() const { return handle != INVALID_HANDLE_VALUE; }
+    bool Close() { return ::CloseHandle(std::exchange(handle, INVALID_HANDLE_VALUE)) != 0; }
+
+private:
+    HANDLE handle;
+};
+
+constexpr DWORD LargestBlock = 1U << 20;
+
+bool WriteAll(HANDLE file, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const auto block = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), LargestBlock));
+        DWORD written = 0;
+        if (::WriteFile(file, bytes.data(), block, &written, nullptr) == 0) {
+            return false;
+        }
+        if (written == 0) {
+            ::SetLastError(ERROR_WRITE_FAULT);
+            return false;
+        }
+        bytes.remove_prefix(written);
+    }
+    return true;
+}
+
+/// A new, empty file that vanishes unless it is moved over another.
+class TemporaryFile
+{
+public:
+    explicit TemporaryFile(const std::wstring& wanted)
+        : path(wanted), file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                           FILE_ATTRIBUTE_NORMAL, nullptr)),
+          mustGo(file.IsOpen())
+    {
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile()
+    {
+        if (mustGo) {
+            if (file.IsOpen()) {
+                file.Close();
+            }
+            ::DeleteFileW(path.c_str());
+        }
+    }
+
+    bool IsOpen() const { return file.IsOpen(); }
+    bool Fill(std::string_view bytes)
+    {
+        return WriteAll(file.Get(), bytes) && ::FlushFileBuffers(file.Get()) != 0 && file.Close();
+    }
+    /// Replaces the other file; returns only when the move is on the disk.
+    bool MoveOver(const std::wstring& target)
+    {
+        const bool moved = ::MoveFileExW(path.c_str(), target.c_str(),
+                                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+        mustGo = !moved;
+        return moved;
+    }
+
+private:
+    std::wstring path;
+    Handle file;
+    bool mustGo;
+};
+
+/// Texts of the system come into a buffer whose needed length only the call
+/// itself tells.
+constexpr std::size_t LongestPath = 32768;
+
+std::string FolderOfUser()
+{
+    PWSTR folder = nullptr;
+    std::string result;
+    if (::SHGetKnownFolderPath(FOLDERID_RoamingAppData, 0, nullptr, &folder) == S_OK) {
+        result = Utf8(folder);
+    }
+    ::CoTaskMemFree(folder);
+    return result;
+}
+
+std::string HexadecimalFromLast(DWORD number)
+{
+    std::array<char, 16> text{};
+    std::snprintf(text.data(), text.size(), "&h%08lX", static_cast<unsigned long>(number));
+    return text.data();
+}
+
+} // namespace
+
+std::string ReadWholeFile(const std::string& path)
+{
+    const Handle file(::CreateFileW(Wide(path).c_str(), GENERIC_READ,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    RaiseUnless(file.IsOpen(), path);
+    std::string bytes;
+    std::array<char, 16384> block;
+    for (;;) {
+        DWORD count = 0;
+        RaiseUnless(::ReadFile(file.Get(), block.data(), static_cast<DWORD>(block.size()), &count,
+                               nullptr) != 0,
+                    path);
+        if (count == 0) {
+            return bytes;
+        }
+        bytes.append(block.data(), count);
+    }
+}
+
+void ReplaceFile(const std::string& path, std::string_view bytes)
+{
+    const std::size_t nameAt = path.find_last_of("\\/:") + 1;
+    TemporaryFile temporary(
+        Wide(path.substr(0, nameAt) + ".torvenhall-" + std::to_string(::GetCurrentProcessId())));
+    RaiseUnless(temporary.IsOpen(), path);
+    RaiseUnless(temporary.Fill(bytes), path);
+    // A folder cannot be flushed here; the move itself waits for the disk.
+    RaiseUnless(temporary.MoveOver(Wide(path)), path);
+}
+
+void OverwriteFile(const std::string& path, std::string_view bytes)
+{
+    Handle file(::CreateFileW(Wide(path).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                              FILE_ATTRIBUTE_NORMAL, nullptr));
+    RaiseUnless(file.IsOpen(), path);
+    RaiseUnless(WriteAll(file.Get(), bytes) && file.Close(), path);
+}
+
+bool OpensForReading(const std::string& path)
+{
+    // Opening a folder fails by itself.
+    return Handle(::CreateFileW(Wide(path).c_str(), GENERIC_READ,
+                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr))
+        .IsOpen();
+}
+
+bool PlatformTakesFileName(std::string_view name)
+{
+    constexpr std::size_t longest = 255;
+    constexpr std::array<std::string_view, 6> devices{"con", "prn",    "aux",
+                                                      "nul", "conin$", "conout$"};
+    const bool hasForbidden = std::ranges::any_of(name, [](char c) {
+        return (c >= 0 && c < ' ') ||
+               std::string_view{"<>:\"|?*"}.find(c) != std::string_view::npos;
+    });
+    if (hasForbidden || name.ends_with('.') || name.ends_with(' ') || Wide(name).size() > longest) {
+        return false;
+    }
+    // A device keeps its meaning with any extension and with blanks before it.
+    std::string stem = FoldCase(name.substr(0, name.find('.')));
+    stem.erase(stem.find_last_not_of(' ') + 1);
+    const bool isPort =
+        (stem.starts_with("com") || stem.starts_with("lpt")) && Characters(stem).size() == 4 &&
+        std::string_view{"0123456789¹²³"}.find(stem.substr(3)) != std::string_view::npos;
+    return !isPort && std::ranges::find(devices, stem) == devices.end();
+}
+
+std::string ProgramFile()
+{
+    std::wstring path(LongestPath, L'\0');
+    const DWORD length =
+        ::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    path.resize(length);
+    return Utf8(path);
+}
+
+std::string UserDataDirectory()
+{
+    return AddBackslash(FolderOfUser()) + "Torvenhall";
+}
+
+std::string GetWindowsDir()
+{
+    std::wstring path(LongestPath, L'\0');
+    const UINT length = ::GetWindowsDirectoryW(path.data(), static_cast<UINT>(path.size()));
+    path.resize(length);
+    return StripBackslash(Utf8(path));
+}
+
+bool GetKeyValue(const std::string& keyName, const std::string& valueName, std::string& value)
+{
+    constexpr DWORD longestValue = 1024;
+    std::array<wchar_t, longestValue / sizeof(wchar_t) + 1> data{};
+    HKEY key = nullptr;
+    if (::RegOpenKeyExW(HKEY_LOCAL_MACHINE, Wide(keyName).c_str(), 0, KEY_READ, &key) !=
+        ERROR_SUCCESS) {
+        return false;
+    }
+    DWORD type = 0;
+    DWORD size = longestValue;
+    const LSTATUS result = ::RegQueryValueExW(key, Wide(valueName).c_str(), nullptr, &type,
+                                              reinterpret_cast<BYTE*>(data.data()), &size);
+    ::RegCloseKey(key);
+    if (result != ERROR_SUCCESS) {
+        return false;
+    }
+    if (type == REG_DWORD) {
+        DWORD number = 0;
+        std::memcpy(&number, data.data(), sizeof number);
+        value = HexadecimalFromLast(number);
+    } else {
+        // The last element is never written, so the text always ends.
+        value = Utf8(data.data());
+    }
+    return true;
+}
+
+} // namespace torvenhall

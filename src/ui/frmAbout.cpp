@@ -1,0 +1,50 @@
+#include "ui/frmAbout.h"
+
+#include "core/programs.h"
+#include "ui/support/metrics.h"
+#include "ui/support/pictures.h"
+#include "ui/support/theme.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+constexpr double LineHeight = 15;
+constexpr const char* Lines[] = {
+    "Пишите нам: torvenhall@marshend.example",
+    "Сайт игры: http://torvenhall.example/",
+    "Ошибки и пожелания: http://torvenhall.example/bugs/",
+    "Правила, картинки и анекдоты: Marshend Software",
+    "Бета-тестирование: дворник из третьего подъезда и его модем",
+    "Консультант по питанию: Шеф-Повор. Музыка: вентилятор процессора",
+    "Свободная программа, лицензия MIT. Гарантии нет, зато есть пауза.",
+};
+
+} // namespace
+
+frmAbout::frmAbout(QWidget* parent) : GameWindow("frmAbout", 460, 346, parent)
+{
+    setWindowTitle("О Torvenhall 1.5");
+    setWindowModality(Qt::ApplicationModal);
+    Surface().ShowPicture(LoadPicture("MAINPICTURE", Surface().size(), devicePixelRatioF()));
+    AddSlogan("Label1", "Label2", "Torvenhall 1.5 full", {24, 14, 372, 40}, 26);
+    AddLabel("Label3", "Версия 1.5 Full для Windows 98 SE/Me", {25, 54, 372, 20},
+             TextFont(12.5, true))
+        ->SetColour(colour::Warm);
+    Surface().AddPanel({14, 160, 432, 118});
+    double top = 165;
+    for (const char* line : Lines) {
+        AddLabel({}, line, {26, top, 408, LineHeight}, TextFont(11.5));
+        top += LineHeight;
+    }
+    GameButton* system = AddButton("Command2", "О системе...", {210, 302, 122, 30});
+    system->SetGlyph(Glyph::Screen);
+    GameButton* accept = AddButton("Command1", "OK", {342, 302, 104, 30});
+    connect(system, &QAbstractButton::clicked, this, [this] { Act(StartSysInfo); });
+    connect(accept, &QAbstractButton::clicked, this, &frmAbout::reject);
+    accept->setFocus();
+}
+
+} // namespace torvenhall

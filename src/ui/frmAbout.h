@@ -1,0 +1,17 @@
+#pragma once
+
+#include "ui/support/gamewindow.h"
+
+namespace torvenhall
+{
+
+/// The about box.
+class frmAbout : public GameWindow
+{
+    Q_OBJECT
+
+public:
+    explicit frmAbout(QWidget* parent);
+};
+
+} // namespace torvenhall

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ui/support/activitywindow.h"
+
+namespace torvenhall
+{
+
+/// The education window: attend school or courses, or drop out.
+class frmEducation : public ActivityWindow
+{
+    Q_OBJECT
+
+public:
+    frmEducation(LabelBoard& board, QWidget* parent);
+
+    void Load() override;
+
+private:
+    void AddProgramme(const QString& labelName, const QString& text, double top);
+    GameButton* AddToggle(const char* name, const QString& caption, double top, void (*toggle)());
+
+    GameButton* school;
+    GameButton* courses;
+};
+
+} // namespace torvenhall

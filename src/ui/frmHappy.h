@@ -1,0 +1,20 @@
+#pragma once
+
+#include "ui/support/servicewindow.h"
+
+namespace torvenhall
+{
+
+/// Entertainment: sells mood.
+class frmHappy : public ServiceSeller
+{
+    Q_OBJECT
+
+public:
+    frmHappy(LabelBoard& board, QWidget* parent)
+        : ServiceSeller("frmHappy", Entertainment, board, parent)
+    {
+    }
+};
+
+} // namespace torvenhall

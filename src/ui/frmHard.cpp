@@ -1,0 +1,16 @@
+#include "ui/frmHard.h"
+
+#include "equipment/catalogue.h"
+
+namespace torvenhall
+{
+
+frmHard::frmHard(LabelBoard& board, QWidget* parent)
+    : EquipmentShop({"frmHard", "Железо", "HARD"},
+                    {"cmdUpggrade", HardwareCategories, 404, HardwareOffer, BuyNextHardware}, board,
+                    parent)
+{
+    AddSlogan("Label3", "Label4", "Железо оно и на Тайване железо", {20, 12, 520, 34});
+}
+
+} // namespace torvenhall

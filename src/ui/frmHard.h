@@ -1,0 +1,17 @@
+#pragma once
+
+#include "ui/support/equipmentwindow.h"
+
+namespace torvenhall
+{
+
+/// The hardware shop: nine buttons, each the next better part of its kind.
+class frmHard : public EquipmentShop
+{
+    Q_OBJECT
+
+public:
+    frmHard(LabelBoard& board, QWidget* parent);
+};
+
+} // namespace torvenhall

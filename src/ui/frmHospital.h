@@ -1,0 +1,20 @@
+#pragma once
+
+#include "ui/support/servicewindow.h"
+
+namespace torvenhall
+{
+
+/// The hospital: sells health.
+class frmHospital : public ServiceSeller
+{
+    Q_OBJECT
+
+public:
+    frmHospital(LabelBoard& board, QWidget* parent)
+        : ServiceSeller("frmHospital", Hospital, board, parent)
+    {
+    }
+};
+
+} // namespace torvenhall

@@ -1,0 +1,48 @@
+#include "ui/frmLang.h"
+
+#include <QFileInfo>
+#include <QListWidget>
+#include <QPlainTextEdit>
+
+#include "core/errors.h"
+#include "resources/basLangMGR.h"
+#include "ui/support/metrics.h"
+#include "ui/support/text.h"
+
+namespace torvenhall
+{
+
+frmLang::frmLang(QWidget* parent)
+    : GameWindow("frmLang", 380, 330, parent), list(new QListWidget(&Surface())),
+      info(new QPlainTextEdit(&Surface()))
+{
+    setWindowTitle("Select Language");
+    Surface().AddPanel({12, 12, 356, 306}, Scene::Panel::Deep);
+    AddLabel("Label1", "Present Languages:", {26, 20, 328, 20}, TextFont(12));
+    list->setObjectName("List1");
+    list->setGeometry(PxRect({26, 42, 328, 104}));
+    for (const std::string& file : LangFiles()) {
+        list->addItem(QFileInfo(Text(file)).completeBaseName());
+    }
+    AddLabel("Label2", "Language Info:", {26, 152, 328, 20}, TextFont(12));
+    info->setObjectName("Text1");
+    info->setReadOnly(true);
+    info->setGeometry(PxRect({26, 174, 328, 90}));
+    AddButton("Command1", "Select", {158, 276, 96, 30});
+    AddButton("Command2", "Cancel", {262, 276, 92, 30});
+    connect(list, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* item) { ShowLanguage(list->row(item)); });
+}
+
+void frmLang::ShowLanguage(int row)
+{
+    Act([this, row] {
+        Trapped([&] {
+            SelectLanguage(row + 1);
+            info->setPlainText("Description: " + Text(LangDescription) +
+                               "\r\nCopyright: " + Text(LangCopyright));
+        });
+    });
+}
+
+} // namespace torvenhall

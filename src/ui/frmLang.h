@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ui/support/gamewindow.h"
+
+class QListWidget;
+class QPlainTextEdit;
+
+namespace torvenhall
+{
+
+/// The language chooser. Dormant: nothing opens it and nothing fills the list
+/// of language files yet.
+class frmLang : public GameWindow
+{
+    Q_OBJECT
+
+public:
+    explicit frmLang(QWidget* parent);
+
+private:
+    void ShowLanguage(int row);
+
+    QListWidget* list;
+    QPlainTextEdit* info;
+};
+
+} // namespace torvenhall

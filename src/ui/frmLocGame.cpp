@@ -1,0 +1,71 @@
+#include "ui/frmLocGame.h"
+
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "ui/support/metrics.h"
+#include "ui/support/pictures.h"
+#include "ui/support/text.h"
+#include "ui/support/theme.h"
+
+namespace torvenhall
+{
+
+frmLocGame::frmLocGame(const GameNameQuestion& question, QWidget* parent)
+    : GameWindow("frmLocGame", 380, 330, parent), list(new QListWidget(&Surface())),
+      name(new QLineEdit(Text(question.name), &Surface()))
+{
+    setWindowTitle(Text(question.caption));
+    Surface().ShowPicture(LoadPicture("SOFTPICTURE", Surface().size(), devicePixelRatioF()));
+    Surface().AddPanel({12, 12, 356, 306}, Scene::Panel::Deep);
+    AddLabel("Label1", Text(question.heading), {26, 20, 328, 22}, TextFont(13, true))
+        ->SetColour(colour::Warm);
+    AddEntries(question);
+
+    GameButton* confirm = AddButton("Command1", Text(question.confirm), {136, 276, 118, 30});
+    confirm->SetGlyph(question.saving ? Glyph::Diskette : Glyph::Play);
+    GameButton* cancel = AddButton("Command2", "Отмена", {262, 276, 92, 30});
+    connect(confirm, &QAbstractButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QAbstractButton::clicked, this, &frmLocGame::reject);
+    TabThrough({list, name, confirm, cancel});
+    if (question.saving) {
+        name->setFocus();
+    } else {
+        list->setFocus();
+    }
+}
+
+void frmLocGame::AddEntries(const GameNameQuestion& question)
+{
+    list->setObjectName("List1");
+    list->setGeometry(PxRect({26, 44, 328, 186}));
+    for (const std::string& game : question.games) {
+        list->addItem(Text(game));
+    }
+    name->setObjectName("Text1");
+    name->setGeometry(PxRect({26, 238, 328, 28}));
+    name->setEnabled(question.saving);
+    const auto pick = [this](const QListWidgetItem* item) { name->setText(item->text()); };
+    connect(list, &QListWidget::itemClicked, this, pick);
+    // The arrow keys pick as a click does; the focus alone picks nothing.
+    connect(list, &QListWidget::itemSelectionChanged, this, [this, pick] {
+        for (const QListWidgetItem* item : list->selectedItems()) {
+            pick(item);
+        }
+    });
+    connect(list, &QListWidget::itemActivated, this, &QDialog::accept);
+    connect(name, &QLineEdit::returnPressed, this, &QDialog::accept);
+}
+
+std::string frmLocGame::EnteredName() const
+{
+    return Utf8(name->text());
+}
+
+void frmLocGame::reject()
+{
+    name->clear();
+    GameWindow::reject();
+}
+
+} // namespace torvenhall

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/port.h"
+#include "ui/support/gamewindow.h"
+
+class QLineEdit;
+class QListWidget;
+
+namespace torvenhall
+{
+
+/// The dialog that saves and loads: the saved games and a name, typed for
+/// saving, picked for loading.
+class frmLocGame : public GameWindow
+{
+    Q_OBJECT
+
+public:
+    frmLocGame(const GameNameQuestion& question, QWidget* parent);
+
+    std::string EnteredName() const;
+
+protected:
+    void reject() override;
+
+private:
+    void AddEntries(const GameNameQuestion& question);
+
+    QListWidget* list;
+    QLineEdit* name;
+};
+
+} // namespace torvenhall

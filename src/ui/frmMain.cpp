@@ -1,0 +1,185 @@
+#include "ui/frmMain.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QTimer>
+
+#include "core/GameState.h"
+#include "core/basGame.h"
+#include "core/cheats.h"
+#include "core/clock.h"
+#include "core/commands.h"
+#include "core/entry.h"
+#include "ui/support/button.h"
+#include "ui/support/metrics.h"
+#include "ui/support/text.h"
+#include "ui/support/theme.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+// Frame excluded, menu bar included.
+constexpr int WidthTwips = 7765;
+constexpr int HeightTwips = 6630;
+constexpr double MenuHeight = 22;
+constexpr double Width = WidthTwips / 15.0;
+constexpr double Height = HeightTwips / 15.0 - MenuHeight;
+
+constexpr int TickMilliseconds = 250;
+
+/// The whole number in a label's text ("$15", "-3%").
+double NumberIn(QString text)
+{
+    return text.remove('$').remove('%').toDouble();
+}
+
+int RankOf(const QString& word)
+{
+    for (int rank = 1; rank <= 8; ++rank) {
+        if (Text(ShowStatus(rank)) == word) {
+            return rank;
+        }
+    }
+    return 0;
+}
+
+} // namespace
+
+frmMain::frmMain(LabelBoard& newBoard)
+    : board(newBoard), scene(new Scene(Width, Height, this)), tmrTime(new QTimer(this))
+{
+    setObjectName("frmMain");
+    setWindowTitle("Marshend Torvenhall 1.5");
+    setFixedSize(TwipsPx(WidthTwips), TwipsPx(HeightTwips));
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setCentralWidget(scene);
+    menuBar()->setNativeMenuBar(false);
+    menuBar()->setFixedHeight(Px(MenuHeight));
+
+    BuildClock();
+    BuildStatistics();
+    BuildComputer();
+    BuildMessageLine();
+    BuildButtons();
+    BuildFileMenu();
+    BuildGameMenu();
+    BuildSettingsMenus();
+    BuildHelpMenu();
+
+    tmrTime->setObjectName("tmrTime");
+    tmrTime->setTimerType(Qt::PreciseTimer);
+    tmrTime->setInterval(TickMilliseconds);
+    connect(tmrTime, &QTimer::timeout, this, &frmMain::QueueTick);
+    connect(&board, &LabelBoard::Shown, this, &frmMain::ShowLabel);
+    for (std::size_t i = 0; i < LabelCount; ++i) {
+        ShowLabel(static_cast<Label>(i));
+    }
+}
+
+void frmMain::Load()
+{
+    ClockTick();
+    scene->LoadBackground("MAIN");
+    EnableTimer(true);
+}
+
+void frmMain::EnableTimer(bool enabled)
+{
+    ++timerRun;
+    tickQueued = false;
+    if (enabled) {
+        tmrTime->start();
+    } else {
+        tmrTime->stop();
+    }
+}
+
+/// A timer does not fire while its own slot is on the stack, and a tick may
+/// wait for seconds in the message line; so the tick runs from the event
+/// queue instead. One at most waits there.
+void frmMain::QueueTick()
+{
+    if (tickQueued) {
+        return;
+    }
+    tickQueued = true;
+    const auto tick = [this, run = timerRun] {
+        if (run == timerRun) {
+            tickQueued = false;
+            EnterTick();
+        }
+    };
+    QMetaObject::invokeMethod(this, tick, Qt::QueuedConnection);
+}
+
+void frmMain::ShowLabel(Label label)
+{
+    const auto index = static_cast<std::size_t>(label);
+    labels[index]->ShowText(board.ShownText(label));
+    labels[index]->SetColour(board.Colour(label));
+    if (gauges[index]) {
+        ShowGauge(label);
+    }
+}
+
+void frmMain::ShowGauge(Label label)
+{
+    Gauge& gauge = *gauges[static_cast<std::size_t>(label)];
+    const QString& text = board.ShownText(label);
+    if (label == Label::lblMoney) {
+        gauge.Show(NumberIn(text), GameState.WinMoney.value());
+    } else if (label == Label::lblStatus) {
+        gauge.Show(RankOf(text), 8);
+    } else {
+        gauge.Show(NumberIn(text), 100, board.IsDanger(label));
+    }
+}
+
+void frmMain::closeEvent(QCloseEvent* event)
+{
+    // The rules end the program; until they do, nothing may vanish.
+    event->ignore();
+    if (GameState.Restarting != True) {
+        EnterRules(CloseProgram);
+    }
+}
+
+void frmMain::keyPressEvent(QKeyEvent* event)
+{
+    if (!HandleKey(*event)) {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event)
+{
+    // The buttons' keys pass here first.
+    if (event->type() == QEvent::KeyPress && HandleKey(*static_cast<QKeyEvent*>(event))) {
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+bool frmMain::HandleKey(const QKeyEvent& event)
+{
+    const auto others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if (event.isAutoRepeat() || (event.modifiers() & others)) {
+        return false;
+    }
+    const QString key = event.text();
+    if (key == "p" || key == "з") {
+        EnterRules(PauseGame);
+        return true;
+    }
+    if (key == "w" || key == "ц") {
+        EnterRules(EnterCheat);
+        return true;
+    }
+    return false;
+}
+
+} // namespace torvenhall

@@ -1,0 +1,109 @@
+// The menus of the main window, in order.
+
+#include <QMenuBar>
+
+#include "core/basGame.h"
+#include "core/commands.h"
+#include "core/entry.h"
+#include "core/newgame.h"
+#include "core/programs.h"
+#include "savegame/savegame.h"
+#include "ui/frmMain.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+template <Window window>
+void Open()
+{
+    Windows().OpenWindow(window);
+}
+
+template <int chosen>
+void ChooseLevel()
+{
+    Int16 level = chosen;
+    SetGameLevel(level);
+}
+
+template <int speed>
+void ChooseSpeed()
+{
+    SetGameSpeed(speed);
+}
+
+} // namespace
+
+QMenu* frmMain::AddMenu(const QString& title)
+{
+    return menuBar()->addMenu(title);
+}
+
+QAction* frmMain::AddItem(QMenu* menu, const char* name, const QString& text,
+                          const Command& command)
+{
+    QAction* action = menu->addAction(text);
+    action->setObjectName(name);
+    if (command) {
+        connect(action, &QAction::triggered, this, [command] { EnterRules(command); });
+    }
+    return action;
+}
+
+void frmMain::AddSeparator(QMenu* menu, const char* name)
+{
+    menu->addSeparator()->setObjectName(name);
+}
+
+void frmMain::BuildFileMenu()
+{
+    QMenu* menu = AddMenu("&Файл");
+    AddItem(menu, "mnuFileNewgame", "Новая игра", NewGame);
+    AddSeparator(menu, "mnuFileSep1");
+    AddItem(menu, "mnuFileSavegame", "Сохранить игру...", SaveGame)
+        ->setShortcut(QKeySequence("Ctrl+S"));
+    AddItem(menu, "mnuFileLoadgame", "Загрузить игру...", LoadGame)
+        ->setShortcut(QKeySequence("Ctrl+O"));
+    AddSeparator(menu, "mnuFileSep2");
+    AddItem(menu, "mnuFileExit", "Выход", CloseProgram);
+}
+
+void frmMain::BuildGameMenu()
+{
+    QMenu* menu = AddMenu("&Игра");
+    AddItem(menu, "mnuGameUpgrade", "Апгрейд компьютера", Open<Window::frmHard>);
+    AddItem(menu, "mnuGameSoft", "Установка ПО", Open<Window::frmSoft>);
+    AddItem(menu, "mnuGameHappy", "Развлечения", Open<Window::frmHappy>);
+    AddItem(menu, "mnuGameHosp", "Больница", Open<Window::frmHospital>);
+    AddItem(menu, "mnuGameShop", "Магазин", Open<Window::frmShop>);
+    AddItem(menu, "mnugameWork", "Центр занятости", Open<Window::frmWork>);
+    // The school is reached by its button only.
+    AddItem(menu, "mnuGameSchool", "Школа", {});
+    AddItem(menu, "mnuGameInNet", "Выход в свет", GoOnline);
+}
+
+void frmMain::BuildSettingsMenus()
+{
+    QMenu* level = AddMenu("&Уровень игры");
+    AddItem(level, "mnuLevelHard", "Сложный", ChooseLevel<0>);
+    AddItem(level, "mnuLevelMiddle", "Нормальный", ChooseLevel<1>);
+    AddItem(level, "mnuLevelEasy", "Простой", ChooseLevel<2>);
+    QMenu* speed = AddMenu("&Скорость игры");
+    AddItem(speed, "mnuSpeedFast", "Быстрый", ChooseSpeed<60>);
+    AddItem(speed, "mnuSpeedNormal", "Нормальный", ChooseSpeed<30>);
+    AddItem(speed, "mnuSpeedSlow", "Медленный", ChooseSpeed<15>);
+}
+
+void frmMain::BuildHelpMenu()
+{
+    QMenu* menu = AddMenu("Сп&равка");
+    AddItem(menu, "mnuhelpReadme", "Справка", ShowReadme)->setShortcut(QKeySequence("F1"));
+    AddItem(menu, "mnuHelpEULA", "Лицензионное соглашение", ShowLicence);
+    AddSeparator(menu, "mnuHelpS1");
+    AddItem(menu, "mnuHelpAbout", "О программе...", Open<Window::frmAbout>);
+}
+
+} // namespace torvenhall

@@ -1,0 +1,248 @@
+#include "ui/frmNetwork.h"
+
+#include <QPainter>
+#include <QTextEdit>
+#include <QTimer>
+
+#include "core/errors.h"
+#include "network/network.h"
+#include "resources/anecdotes.h"
+#include "ui/support/metrics.h"
+#include "ui/support/text.h"
+#include "ui/support/theme.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+constexpr double Width = 640;
+constexpr double Height = 440;
+constexpr double PanelTop = 58;
+constexpr double PanelHeight = 328;
+constexpr double InternetWidth = 396;
+constexpr double BoardLeft = 14 + InternetWidth + 10;
+constexpr double BoardWidth = Width - 14 - BoardLeft;
+
+constexpr int RefreshMilliseconds = 100;
+constexpr int MarkSteps = 12;
+
+constexpr double SiteShown = 120 / 15.0;     // where a site panel stands when it is shown,
+constexpr double SiteHidden = -10000 / 15.0; // and where it is put away
+
+} // namespace
+
+WaitMark::WaitMark(QWidget* parent) : QWidget(parent)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void WaitMark::Step(bool waits)
+{
+    if (waits || waiting != waits) {
+        waiting = waits;
+        step = waits ? (step + 1) % MarkSteps : 0;
+        update();
+    }
+}
+
+void WaitMark::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor(255, 255, 255, 22));
+    if (!waiting) {
+        return;
+    }
+    const double block = width() / 4.0;
+    const double left = (width() + block) * step / MarkSteps - block;
+    QLinearGradient light(left, 0, left + block, 0);
+    light.setColorAt(0, QColor(192, 255, 255, 0));
+    light.setColorAt(1, colour::LightCyan);
+    painter.fillRect(QRectF(left, 0, block, height()), light);
+}
+
+frmNetwork::frmNetwork(LabelBoard& board, QWidget* parent)
+    : ActivityWindow({"frmNetwork", "Выход в свет", "NET", Width, Height}, board, parent),
+      refresh(new QTimer(this))
+{
+    AddSlogan("Label6", "Label7", "Всемирная паутина и один паук", {20, 14, Width - 40, 34});
+    BuildInternet();
+    BuildSites();
+    BuildBoard();
+    AddBack("Command9");
+    ShowSite(-1);
+    refresh->setInterval(RefreshMilliseconds);
+    connect(refresh, &QTimer::timeout, this, &frmNetwork::RefreshChoices);
+}
+
+GameButton* frmNetwork::AddCommand(const char* name, const QString& caption, const QRectF& place,
+                                   QWidget* panel, void (*command)())
+{
+    GameButton* button = AddButton(name, caption, place);
+    button->setParent(panel);
+    button->setGeometry(PxRect(place));
+    if (command) {
+        connect(button, &QAbstractButton::clicked, this, [this, command] { Choose(command); });
+    }
+    return button;
+}
+
+GameLabel* frmNetwork::AddText(const char* name, const QString& text, const QRectF& place,
+                               QWidget* panel, double height)
+{
+    GameLabel* label = AddLabel(name, text, place, TextFont(height));
+    label->setParent(panel);
+    label->setGeometry(PxRect(place));
+    return label;
+}
+
+void frmNetwork::BuildInternet()
+{
+    Surface().AddPanel({14, PanelTop, InternetWidth, PanelHeight});
+    AddLabel("Label9", "Dial-Up Networking", {26, PanelTop + 7, 220, 20}, TextFont(13, true))
+        ->SetColour(colour::Warm);
+    inetDial = AddCommand("Command1", "Звонить ($1/час)", {26, PanelTop + 31, 150, 27}, &Surface(),
+                          DialInternet);
+    inetDial->SetGlyph(Glyph::Phone);
+    inetDial->SetEnterPresses(false);
+    inetStatus =
+        AddLabel("Label1", {}, {186, PanelTop + 29, InternetWidth - 184, 22}, TerminalFont(11.5));
+    inetStatus->SetColour(colour::LightCyan);
+    inetMark = new WaitMark(&Surface());
+    inetMark->setGeometry(PxRect({186, PanelTop + 53, InternetWidth - 184, 3}));
+
+    internet = new QWidget(&Surface());
+    internet->setObjectName("Picture1");
+    internet->setGeometry(PxRect({14, PanelTop + 64, InternetWidth, PanelHeight - 64}));
+    GameButton* home = AddCommand("Command2", "<<< HomePage >>>", {12, 4, InternetWidth - 24, 25},
+                                  internet, nullptr);
+    connect(home, &QAbstractButton::clicked, this, [this] { ShowSite(-1); });
+    for (int i = 0; i < Sites; ++i) {
+        const double top = 33.0 + 29 * i;
+        GameButton* place = AddCommand("cmdChangeLocation", Text(SiteAddress(i)),
+                                       {12, top, InternetWidth - 24, 25}, internet, nullptr);
+        place->setObjectName(QString("cmdChangeLocation%1").arg(i));
+        place->SetGlyph(Glyph::Globe);
+        place->SetAlignment(Qt::AlignLeft);
+        connect(place, &QAbstractButton::clicked, this, [this, i] { ShowSite(i); });
+    }
+}
+
+QWidget* frmNetwork::AddSite(int location, const QRectF& place)
+{
+    auto* panel = new Scene(place.width(), place.height(), internet);
+    panel->setObjectName(QString("picLocation%1").arg(location));
+    panel->move(Px(place.left()), Px(place.top()));
+    panel->AddPanel({0, 0, place.width(), place.height()}, Scene::Panel::Deep);
+    sites[static_cast<std::size_t>(location)] = panel;
+    return panel;
+}
+
+void frmNetwork::BuildSites()
+{
+    const QRectF place(SiteShown, 124, InternetWidth - 2 * SiteShown, PanelHeight - 64 - 124 - 8);
+    const double inner = place.width() - 20;
+
+    QWidget* antivirus = AddSite(0, place);
+    AddText("Label5", Text(SiteAddress(0)), {10, 8, inner, 20}, antivirus, 12)
+        ->SetColour(colour::LightCyan);
+    AddCommand("Command7", "Get Last Antivirus Database", {10, 38, inner, 28}, antivirus,
+               DownloadAntivirus)
+        ->SetGlyph(Glyph::Download);
+
+    QWidget* software = AddSite(1, place);
+    AddText("Label3", Text(SiteAddress(1)) + " -- Самый свежий софт!", {10, 8, inner, 20}, software,
+            12)
+        ->SetColour(colour::LightCyan);
+    download = AddCommand("Command6",
+                          "Download Cool, Necessary and Freeware Programs and Utilites for FREE!!!",
+                          {10, 38, inner, 28}, software, DownloadSoftware);
+
+    QWidget* anecdotes = AddSite(2, place);
+    AddText("Label4", Text(SiteAddress(2)), {10, 5, inner - 170, 24}, anecdotes, 12)
+        ->SetColour(colour::LightCyan);
+    GameButton* next =
+        AddCommand("cmdRnd", "Next Random Anecdot", {inner - 156, 5, 166, 24}, anecdotes, nullptr);
+    connect(next, &QAbstractButton::clicked, this, &frmNetwork::ShowAnecdote);
+    anecdote = new QTextEdit(anecdotes);
+    anecdote->setObjectName("txtAnecdot");
+    anecdote->setAcceptRichText(false);
+    anecdote->setTabChangesFocus(true);
+    anecdote->setFont(TextFont(12));
+    anecdote->setGeometry(PxRect({10, 34, inner, place.height() - 42}));
+}
+
+void frmNetwork::BuildBoard()
+{
+    Surface().AddPanel({BoardLeft, PanelTop, BoardWidth, PanelHeight});
+    const double left = BoardLeft + 12;
+    const double inner = BoardWidth - 24;
+    AddLabel("Label10", "Microsoft HyperTerminal", {left, PanelTop + 7, inner, 20},
+             TextFont(13, true))
+        ->SetColour(colour::Warm);
+    bbsDial =
+        AddCommand("Command5", "Звонить", {left, PanelTop + 31, inner, 27}, &Surface(), DialBoard);
+    bbsDial->SetGlyph(Glyph::Phone);
+    bbsStatus = AddLabel("Label2", {}, {left, PanelTop + 62, inner, 22}, TerminalFont(11.5));
+    bbsStatus->SetColour(colour::LightCyan);
+    bbsMark = new WaitMark(&Surface());
+    bbsMark->setGeometry(PxRect({left, PanelTop + 86, inner, 3}));
+
+    bulletin = new QWidget(&Surface());
+    bulletin->setObjectName("Picture2");
+    bulletin->setGeometry(PxRect({BoardLeft, PanelTop + 98, BoardWidth, 76}));
+    AddCommand("cmdBBSDownload", "Download Soft", {12, 4, inner, 28}, bulletin, ReceiveFromBoard)
+        ->SetGlyph(Glyph::Download);
+    AddCommand("cmdBBSUpload", "Upload Soft", {12, 38, inner, 28}, bulletin, SendToBoard)
+        ->SetGlyph(Glyph::Upload);
+    AddCommand("Command8", "Hang-Up", {left, PanelTop + 176, inner, 28}, &Surface(), DialBoard)
+        ->SetGlyph(Glyph::HangUp);
+}
+
+void frmNetwork::Load()
+{
+    // The rules ask for a refresh at every step of a line; the picture stays.
+    if (!pictureLoaded) {
+        pictureLoaded = true;
+        ActivityWindow::Load();
+        refresh->start();
+    }
+    RefreshChoices();
+}
+
+void frmNetwork::ShowLine(GameLabel* status, const std::string& text, WaitMark* mark, bool waits)
+{
+    status->ShowText(Text(text));
+    mark->Step(waits);
+}
+
+void frmNetwork::RefreshChoices()
+{
+    const NetworkState& network = Network();
+    ShowLine(inetStatus, network.inetStatus, inetMark, network.inetWaits != 0);
+    ShowLine(bbsStatus, network.bbsStatus, bbsMark, network.bbsWaits != 0);
+    inetDial->setEnabled(network.inetDialEnabled);
+    bbsDial->setEnabled(network.bbsDialEnabled);
+    download->setEnabled(network.downloadEnabled);
+    internet->setEnabled(network.InetConnected == True);
+    bulletin->setEnabled(network.BbsConnected == True);
+}
+
+void frmNetwork::ShowSite(int location)
+{
+    for (int i = 0; i < Sites; ++i) {
+        QWidget* site = sites[static_cast<std::size_t>(i)];
+        // Hidden too: a panel out of sight must not take the focus.
+        site->move(Px(i == location ? SiteShown : SiteHidden), site->y());
+        site->setVisible(i == location);
+    }
+}
+
+void frmNetwork::ShowAnecdote()
+{
+    // Any error leaves the previous text.
+    Act([this] { TrappedSilently([this] { anecdote->setPlainText(Text(GetAnecdote())); }); });
+}
+
+} // namespace torvenhall

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <array>
+
+#include "ui/support/activitywindow.h"
+
+class QTextEdit;
+class QTimer;
+
+namespace torvenhall
+{
+
+/// A bar beside a status line that moves while the line waits.
+class WaitMark : public QWidget
+{
+public:
+    explicit WaitMark(QWidget* parent);
+    /// Whether something waits; each call while it does moves the mark.
+    void Step(bool waits);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool waiting = false;
+    int step = 0;
+};
+
+/// The dial-up network: the Internet with its three sites on the left, the
+/// bulletin board on the right. The lines live in the rules; the window shows
+/// them, also after it was closed and opened again.
+class frmNetwork : public ActivityWindow
+{
+    Q_OBJECT
+
+public:
+    static constexpr int Sites = 3;
+
+    frmNetwork(LabelBoard& board, QWidget* parent);
+
+    void Load() override;
+
+protected:
+    void RefreshChoices() override;
+
+private:
+    void BuildInternet();
+    void BuildSites();
+    void BuildBoard();
+    QWidget* AddSite(int location, const QRectF& place);
+    GameButton* AddCommand(const char* name, const QString& caption, const QRectF& place,
+                           QWidget* panel, void (*command)());
+    GameLabel* AddText(const char* name, const QString& text, const QRectF& place, QWidget* panel,
+                       double height);
+    /// Shows one site panel; -1 hides all.
+    void ShowSite(int location);
+    void ShowAnecdote();
+    void ShowLine(GameLabel* status, const std::string& text, WaitMark* mark, bool waits);
+
+    bool pictureLoaded = false;
+    QTimer* refresh;
+    GameButton *inetDial, *bbsDial, *download;
+    GameLabel *inetStatus, *bbsStatus;
+    WaitMark *inetMark, *bbsMark;
+    QWidget *internet, *bulletin;
+    std::array<QWidget*, Sites> sites{};
+    QTextEdit* anecdote = nullptr;
+};
+
+} // namespace torvenhall

@@ -1,0 +1,34 @@
+#include "ui/frmPause.h"
+
+#include "core/clock.h"
+#include "core/port.h"
+#include "savegame/savegame.h"
+#include "ui/support/pictures.h"
+
+namespace torvenhall
+{
+
+frmPause::frmPause(QWidget* parent) : GameWindow("frmPause", 320, 204, parent)
+{
+    setWindowTitle("Игра приостановлена");
+    Surface().ShowPicture(LoadPicture("MAINPICTURE", Surface().size(), devicePixelRatioF()));
+    AddSlogan("Label1", "Label2", "Игра приостановлена", {24, 12, 272, 40}, 20);
+    Surface().AddPanel({36, 62, 248, 126});
+    GameButton* resume = AddButton("Command1", "Продолжить", {50, 74, 220, 30});
+    resume->SetGlyph(Glyph::Play);
+    GameButton* save = AddButton("Command2", "Сохранить игру", {50, 110, 220, 30});
+    save->SetGlyph(Glyph::Diskette);
+    GameButton* minimise = AddButton("Command3", "Свернуть игру", {50, 146, 220, 30});
+    minimise->SetGlyph(Glyph::Minimise);
+    connect(resume, &QAbstractButton::clicked, this, &frmPause::reject);
+    connect(save, &QAbstractButton::clicked, this, [this] { Act(SaveGame); });
+    connect(minimise, &QAbstractButton::clicked, this,
+            [this] { Act([] { Windows().MinimiseMainWindow(); }); });
+}
+
+void frmPause::reject()
+{
+    Act(ResumeGame);
+}
+
+} // namespace torvenhall

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ui/support/gamewindow.h"
+
+namespace torvenhall
+{
+
+/// The pause window. The main window stays usable beside it.
+class frmPause : public GameWindow
+{
+    Q_OBJECT
+
+public:
+    explicit frmPause(QWidget* parent);
+
+protected:
+    /// Esc and the close box mean "Продолжить".
+    void reject() override;
+};
+
+} // namespace torvenhall

@@ -1,0 +1,69 @@
+#include "ui/frmPlayerName.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QLineEdit>
+#include <QTimer>
+
+#include "ui/support/metrics.h"
+#include "ui/support/pictures.h"
+#include "ui/support/text.h"
+#include "ui/support/theme.h"
+
+namespace torvenhall
+{
+
+frmPlayerName::frmPlayerName(const NewPlayer& shown, QWidget* parent)
+    : GameWindow("frmPlayerName", 500, 412, parent)
+{
+    setWindowTitle("Имя игрока");
+    Surface().ShowPicture(LoadPicture("MAINPICTURE", Surface().size(), devicePixelRatioF()));
+    Surface().AddPanel({14, 152, 472, 246});
+
+    AddLabel("Label1", "Введите Ваше имя:", {30, 164, 240, 20}, TextFont(13, true))
+        ->SetColour(colour::LightCyan);
+    name = new QLineEdit(Text(shown.name), &Surface());
+    name->setObjectName("Text1");
+    name->setFont(TextFont(13));
+    name->setGeometry(PxRect({30, 188, 282, 28}));
+    name->installEventFilter(this);
+    level = new QComboBox(&Surface());
+    level->setObjectName("Combo1");
+    level->addItems({"Сложный", "Нормальный", "Простой"});
+    level->setCurrentIndex(shown.level);
+    level->setGeometry(PxRect({322, 188, 148, 28}));
+    AddLabel("Label2",
+             "Введите Ваше имя и выберите уровень сложности, нажмите ОК и играйте!\n"
+             "У Вас $15 и ни одной железки. Начните с кнопки «Работа».\n"
+             "Впервые здесь? Выберите «Простой»: на других одной метлой не прожить.\n"
+             "Уровень можно сменить потом в меню «Уровень игры».\n"
+             "Пауза — клавиша «p» (русская «з»): часы ждать не станут.\n"
+             "Сохраняйтесь почаще: Ctrl+S. Советы на первую неделю — в справке, F1.",
+             {30, 224, 440, 126}, TextFont(11.5))
+        ->setWordWrap(true);
+
+    GameButton* accept = AddButton("Command1", "OK", {262, 356, 100, 30});
+    GameButton* cancel = AddButton("Command2", "Отмена", {370, 356, 100, 30});
+    connect(accept, &QAbstractButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QAbstractButton::clicked, this, &frmPlayerName::reject);
+    connect(name, &QLineEdit::returnPressed, this, &QDialog::accept);
+    TabThrough({name, level, accept, cancel});
+    name->setFocus();
+    name->selectAll();
+}
+
+NewPlayer frmPlayerName::Entered() const
+{
+    return {Utf8(name->text()), level->currentIndex()};
+}
+
+bool frmPlayerName::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == name && event->type() == QEvent::FocusIn) {
+        // After the click that gave the focus, which places the cursor.
+        QTimer::singleShot(0, name, &QLineEdit::selectAll);
+    }
+    return GameWindow::eventFilter(watched, event);
+}
+
+} // namespace torvenhall

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/port.h"
+#include "ui/support/gamewindow.h"
+
+class QComboBox;
+class QLineEdit;
+
+namespace torvenhall
+{
+
+/// The name dialog at the start of every game: name and difficulty.
+class frmPlayerName : public GameWindow
+{
+    Q_OBJECT
+
+public:
+    frmPlayerName(const NewPlayer& shown, QWidget* parent);
+
+    NewPlayer Entered() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QLineEdit* name;
+    QComboBox* level;
+};
+
+} // namespace torvenhall

@@ -1,0 +1,16 @@
+#include "ui/frmSoft.h"
+
+#include "equipment/catalogue.h"
+
+namespace torvenhall
+{
+
+frmSoft::frmSoft(LabelBoard& board, QWidget* parent)
+    : EquipmentShop({"frmSoft", "Софт", "SOFT"},
+                    {"cmdUpgrade", SoftwareCategories, 320, SoftwareOffer, InstallNextSoftware},
+                    board, parent)
+{
+    AddSlogan("Label4", "cmdUpgraded", "А Вы удалили MS DOS 1.0?", {20, 14, 520, 34});
+}
+
+} // namespace torvenhall

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ui/support/equipmentwindow.h"
+
+namespace torvenhall
+{
+
+/// The software shop: six buttons, each the next item of its list. Nothing
+/// costs money here.
+class frmSoft : public EquipmentShop
+{
+    Q_OBJECT
+
+public:
+    frmSoft(LabelBoard& board, QWidget* parent);
+
+protected:
+    void RefreshChoices() override {}
+};
+
+} // namespace torvenhall

@@ -1,0 +1,51 @@
+#include "ui/frmVirus.h"
+
+#include "activities/virus.h"
+#include "ui/support/metrics.h"
+#include "ui/support/pictures.h"
+#include "ui/support/theme.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+constexpr double Width = 400;
+constexpr double Height = 300;
+} // namespace
+
+frmVirus::frmVirus(QWidget* parent) : GameWindow("frmVirus", Width, Height, parent)
+{
+    setWindowTitle("Внимание! Вирус!");
+    setWindowModality(Qt::ApplicationModal);
+
+    auto* picture = new QLabel(&Surface());
+    picture->setObjectName("Image1");
+    picture->setGeometry(Surface().rect());
+    picture->setScaledContents(true);
+    picture->setPixmap(LoadPicture("VIRUSPICTURE", Surface().size(), devicePixelRatioF()));
+    auto* panel = new Scene(Width - 24, 84, &Surface());
+    panel->move(Px(12), Px(Height - 84 - 12));
+    panel->AddPanel({0, 0, Width - 24, 84}, Scene::Panel::Deep);
+
+    GameLabel* text = AddLabel("Label1", "На Вашем компьютере обнаружен злой вирус!",
+                               {24, Height - 88, Width - 48, 26}, TextFont(14, true));
+    text->setAlignment(Qt::AlignCenter);
+    text->SetColour(colour::LightCyan);
+    GameButton* kill = AddButton("Command1", "Убить антивирусником", {24, Height - 54, 172, 30});
+    GameButton* release = AddButton("Command2", "Отпустить на волю", {204, Height - 54, 172, 30});
+    for (GameButton* each : {kill, release}) {
+        each->SetEnterPresses(false);
+    }
+    connect(kill, &QAbstractButton::clicked, this, [this] { Answer(FightVirus); });
+    connect(release, &QAbstractButton::clicked, this, [this] { Answer(ReleaseVirus); });
+}
+
+void frmVirus::Answer(void (*deed)())
+{
+    // Pressed once: while the outcome's box is open the window waits behind it.
+    Act(deed);
+    done(QDialog::Accepted);
+}
+
+} // namespace torvenhall

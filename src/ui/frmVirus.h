@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ui/support/gamewindow.h"
+
+namespace torvenhall
+{
+
+/// The virus attack. One of its two buttons must be pressed: the window takes
+/// neither Esc nor its close box.
+class frmVirus : public GameWindow
+{
+    Q_OBJECT
+
+public:
+    explicit frmVirus(QWidget* parent);
+
+protected:
+    bool Closable() const override { return false; }
+
+private:
+    void Answer(void (*deed)());
+};
+
+} // namespace torvenhall

@@ -1,0 +1,26 @@
+#include "ui/frmWork.h"
+
+#include "activities/work.h"
+#include "ui/support/text.h"
+
+namespace torvenhall
+{
+
+frmWork::frmWork(LabelBoard& board, QWidget* parent)
+    : ActivityWindow({"frmWork", "Работа", "WORK"}, board, parent)
+{
+    AddSlogan("Label2", "Label3", "Центр занятости населения", {20, 14, 520, 34});
+    std::vector<std::pair<QString, QString>> captions;
+    for (int i = 0; i < JobButtons; ++i) {
+        captions.emplace_back(QString("cmdWork%1").arg(i),
+                              Text(JobCaptions[static_cast<std::size_t>(i)]));
+    }
+    AddChoices({"Смена работы", "Label1", 440, 2}, captions);
+    for (int i = 0; i < JobButtons; ++i) {
+        connect(&Choice(static_cast<std::size_t>(i)), &QAbstractButton::clicked, this,
+                [this, i] { Choose([i] { ApplyForJob(i); }); });
+    }
+    AddBack("Command8");
+}
+
+} // namespace torvenhall

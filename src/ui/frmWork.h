@@ -1,0 +1,17 @@
+#pragma once
+
+#include "ui/support/activitywindow.h"
+
+namespace torvenhall
+{
+
+/// The employment centre: a button for each job of the ladder.
+class frmWork : public ActivityWindow
+{
+    Q_OBJECT
+
+public:
+    frmWork(LabelBoard& board, QWidget* parent);
+};
+
+} // namespace torvenhall

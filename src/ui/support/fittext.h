@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QFont>
+#include <QRectF>
+#include <QString>
+
+class QPainter;
+
+namespace torvenhall
+{
+
+/// A line of text made to fit a width: condensed first, and only when that
+/// is not enough cut with an ellipsis.
+struct FittedText {
+    QString text;
+    double stretch = 1; ///< horizontal
+    bool whole = true;  ///< nothing was cut
+};
+FittedText FitText(const QString& text, const QFont& font, double width);
+
+/// Draws one fitted line, aligned inside the rectangle, with the painter's
+/// font and pen.
+void DrawFitted(QPainter& painter, const QRectF& rect, Qt::Alignment alignment,
+                const QString& text);
+
+} // namespace torvenhall

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+#include <QRectF>
+
+class QPainter;
+
+namespace torvenhall
+{
+
+/// The small line drawings of the buttons and boxes.
+enum class Glyph : unsigned char {
+    None,
+    Chip,
+    Diskette,
+    Dice,
+    Cross,
+    Basket,
+    Briefcase,
+    Book,
+    Globe,
+    Back,
+    Play,
+    Minimise,
+    Phone,
+    HangUp,
+    Screen,
+    Download,
+    Upload,
+    Information,
+    Exclamation,
+    Question,
+    Stop,
+};
+
+/// Draws a glyph into a square.
+void DrawGlyph(QPainter& painter, Glyph glyph, const QRectF& square, const QColor& ink);
+
+QIcon GlyphIcon(Glyph glyph, const QColor& ink);
+
+} // namespace torvenhall

@@ -1,0 +1,130 @@
+#include "ui/support/label.h"
+
+#include <QPainter>
+#include <QTextLayout>
+
+#include "ui/support/fittext.h"
+#include "ui/support/metrics.h"
+#include "ui/support/theme.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+constexpr double SmallestUnits = 7.5;
+
+/// Breaks the text into lines of a width; their common height.
+double LayOut(QTextLayout& layout, double width)
+{
+    layout.setText(layout.text().replace('\n', QChar::LineSeparator));
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.setCacheEnabled(true);
+    double height = 0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0, height});
+        height += line.height();
+    }
+    layout.endLayout();
+    return height;
+}
+
+} // namespace
+
+GameLabel::GameLabel(const QString& controlName, const QFont& font, QWidget* parent)
+    : QLabel(parent), colour(colour::Text)
+{
+    setObjectName(controlName);
+    setTextFormat(Qt::PlainText);
+    setFont(font);
+}
+
+void GameLabel::SetColour(const QColor& newColour)
+{
+    if (colour != newColour) {
+        colour = newColour;
+        update();
+    }
+}
+
+void GameLabel::ShowText(const QString& newText)
+{
+    if (text() != newText) {
+        setText(newText);
+        setToolTip(TextFits() ? QString() : newText);
+    }
+}
+
+bool GameLabel::TextFits() const
+{
+    if (wordWrap()) {
+        bool fits = false;
+        WrappedFont(&fits);
+        return fits;
+    }
+    return FitText(text(), font(), contentsRect().width()).whole;
+}
+
+QFont GameLabel::WrappedFont(bool* fits) const
+{
+    QFont candidate = font();
+    const int smallest = Px(SmallestUnits);
+    for (;; candidate.setPixelSize(candidate.pixelSize() - 1)) {
+        QTextLayout layout(text(), candidate);
+        const bool room = LayOut(layout, contentsRect().width()) <= contentsRect().height();
+        if (room || candidate.pixelSize() <= smallest) {
+            if (fits) {
+                *fits = room;
+            }
+            return candidate;
+        }
+    }
+}
+
+void GameLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setPen(colour);
+    painter.setFont(font());
+    if (!wordWrap()) {
+        DrawFitted(painter, contentsRect(), alignment(), text());
+        return;
+    }
+    QTextLayout layout(text(), WrappedFont());
+    const double height = LayOut(layout, contentsRect().width());
+    QPointF origin = contentsRect().topLeft();
+    if (alignment() & Qt::AlignVCenter) {
+        origin.ry() += (contentsRect().height() - height) / 2;
+    }
+    layout.draw(&painter, origin);
+}
+
+void TerminalLabel::paintEvent(QPaintEvent* event)
+{
+    GameLabel::paintEvent(event);
+    const QFont shown = WrappedFont();
+    const QFontMetricsF metrics(shown);
+    const double width = metrics.horizontalAdvance('M');
+    QPointF place(0, 0);
+    if (!text().isEmpty()) {
+        QTextLayout layout(text(), shown);
+        LayOut(layout, contentsRect().width());
+        const QTextLine last = layout.lineAt(layout.lineCount() - 1);
+        place = {last.cursorToX(static_cast<int>(text().size())) + width * 0.15, last.y()};
+    }
+    if (place.x() + width > contentsRect().width()) {
+        return;
+    }
+    QColor ink = Colour();
+    ink.setAlpha(text().isEmpty() ? 70 : 255);
+    const QRectF block(contentsRect().topLeft() + place + QPointF(0, metrics.height() * 0.12),
+                       QSizeF(width * 0.85, metrics.height() * 0.76));
+    QPainter(this).fillRect(block, ink);
+}
+
+} // namespace torvenhall

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QByteArray>
+#include <QPixmap>
+#include <QSize>
+
+#include <string_view>
+
+namespace torvenhall
+{
+
+/// The bytes of a picture carried in the program ("MAINPICTURE"); empty if
+/// there is none.
+QByteArray EmbeddedPicture(std::string_view name);
+
+/// A window's background, filling a size in toolkit pixels. Every call runs
+/// the picture step of the rules for its effects; the picture itself is
+/// decoded and scaled once. Null when there is none.
+QPixmap LoadBackground(std::string_view key, QSize size, double pixelRatio);
+
+/// A picture that is not a window's background, by its embedded name.
+QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio);
+
+/// The same picture as seen through frosted glass.
+QPixmap Frosted(const QPixmap& picture);
+
+} // namespace torvenhall

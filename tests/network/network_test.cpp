@@ -1,0 +1,236 @@
+#include "network/network.h"
+
+#include "core/basGame.h"
+#include "core/entry.h"
+#include "core/life.h"
+#include "equipment/basEquipment.h"
+#include "support/life.h"
+
+namespace torvenhall::test
+{
+namespace
+{
+
+class Lines : public Life
+{
+protected:
+    Lines() { Begin(); }
+
+    /// Both lines as the window shows them, and which buttons work.
+    static std::string Shown()
+    {
+        const NetworkState& lines = Network();
+        return lines.inetStatus.substr(8) + "/" + lines.bbsStatus.substr(8) +
+               (lines.inetDialEnabled ? " 1" : "") + (lines.bbsDialEnabled ? " 5" : "") +
+               (lines.downloadEnabled ? " 6" : "");
+    }
+
+    /// What the following pauses show, each with the second of its end.
+    void WatchPauses(int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            player.duringWait.emplace_back([this] {
+                pauses.push_back(std::to_string(static_cast<int>(player.seconds - began)) + " " +
+                                 Shown());
+            });
+        }
+        pauses.clear();
+        began = player.seconds;
+    }
+
+    /// Everything that another life must find as it was.
+    void DieInTheNextWait()
+    {
+        player.names.push_back(NewPlayer{"Пётр", 1});
+        player.duringWait.emplace_back([] { EnterRules([] { SetHealth(-50); }); });
+    }
+
+    using Texts = std::vector<std::string>;
+    Texts pauses;
+    double began = 0;
+};
+
+TEST_F(Lines, DiallingTheInternetShowsEachStepForItsSeconds)
+{
+    WatchPauses(4);
+    DialInternet();
+    EXPECT_EQ(pauses,
+              (Texts{"1 Initializing.../Disconnected 5 6", "6 Dialing 555-28-64/Disconnected 5 6",
+                     "7 Connecting.../Disconnected 5 6", "10 Verifying.../Disconnected 5 6"}));
+    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
+    EXPECT_EQ(Network().InetConnected, True);
+
+    WatchPauses(1);
+    DialInternet();
+    EXPECT_EQ(pauses, (Texts{"1 Disconnecting.../Disconnected 5 6"}));
+    EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
+}
+
+TEST_F(Lines, DiallingTheBoardHasNoVerifyingStepAndCostsNothing)
+{
+    WatchPauses(3);
+    DialBoard();
+    EXPECT_EQ(pauses,
+              (Texts{"1 Disconnected/Initializing... 1 6", "6 Disconnected/Dialing 555-91-00 1 6",
+                     "7 Disconnected/Connecting... 1 6"}));
+    EXPECT_EQ(Shown(), "Disconnected/Connected 1 5 6");
+    EXPECT_EQ(Network().BbsConnected, True);
+    NetworkHourTick();
+
+    WatchPauses(1);
+    DialBoard();
+    EXPECT_EQ(pauses, (Texts{"1 Disconnected/Disconnecting... 1 6"}));
+    EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
+    EXPECT_EQ(GameState.Money, 15);
+}
+
+TEST_F(Lines, WhileOneLineIsUpTheOthersButtonDoesNothing)
+{
+    DialBoard();
+    WatchPauses(1);
+    DialInternet();
+    EXPECT_EQ(Shown(), "Disconnected/Connected 1 5 6");
+    DialBoard();
+    DialInternet();
+    WatchPauses(1);
+    DialBoard();
+    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
+    EXPECT_TRUE(pauses.empty());
+}
+
+TEST_F(Lines, SessionsOfThreeAndTwoHoursBillThreeAndThenFiveDollars)
+{
+    const std::pair<int, int> sessions[]{{3, 15 - 3}, {2, 15 - 3 - 5}};
+    for (const auto& [hours, money] : sessions) {
+        DialInternet();
+        for (int i = 0; i < hours; ++i) {
+            NetworkHourTick();
+        }
+        DialInternet();
+        EXPECT_EQ(GameState.Money, money);
+        NetworkHourTick(); // not online: not billed
+    }
+}
+
+TEST_F(Lines, HoursBeyondTheirWidthAreSwallowed)
+{
+    DialInternet();
+    for (int i = 0; i < 32767 + 2; ++i) {
+        NetworkHourTick();
+    }
+    EXPECT_EQ(Network().TrafficHours, 32767);
+    EXPECT_TRUE(player.boxes.empty());
+}
+
+TEST_F(Lines, AReceivedFileAddsItsMegabytesAndASentOneNothing)
+{
+    DialBoard();
+    dice.values = {DrawOf(5, 10), DrawOf(10, 10)};
+    WatchPauses(2);
+    ReceiveFromBoard();
+    EXPECT_EQ(GameState.SoftSize, 5);
+    EXPECT_EQ(LabelShown(Label::lblOther), "5 Мб");
+    SendToBoard();
+    EXPECT_EQ(GameState.SoftSize, 5);
+    EXPECT_EQ(pauses, (Texts{"5 Disconnected/Receiving 5120 Data... 1 5 6",
+                             "15 Disconnected/Sending 10240 Data... 1 5 6"}));
+    EXPECT_EQ(Shown(), "Disconnected/Connected 1 5 6");
+}
+
+TEST_F(Lines, ATransferOfNothingDoesNotPause)
+{
+    DialBoard();
+    dice.values = {DrawOf(0, 10)};
+    player.open.insert(Window::frmNetwork);
+    player.Forget();
+    WatchPauses(1);
+    ReceiveFromBoard();
+    EXPECT_TRUE(pauses.empty());
+    EXPECT_EQ(player.journal, (Texts{"reload frmNetwork", "reload frmNetwork", "lblOther=0 Мб"}));
+}
+
+TEST_F(Lines, ATransferInsideAnotherAddsToo)
+{
+    DialBoard();
+    dice.values = {DrawOf(3, 10), DrawOf(4, 10)};
+    player.duringWait.emplace_back([] { EnterRules(ReceiveFromBoard); });
+    ReceiveFromBoard();
+    EXPECT_EQ(GameState.SoftSize, 7);
+    EXPECT_EQ(Network().bbsWaits, 0);
+}
+
+TEST_F(Lines, TheSoftwareSiteGivesOnceUntilTheAntivirusSiteGives)
+{
+    DialInternet();
+    dice.values = {DrawOf(7, 10), DrawOf(2, 10)};
+    WatchPauses(2);
+    DownloadSoftware();
+    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5");
+    DownloadAntivirus();
+    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
+    EXPECT_EQ(pauses, (Texts{"7 Downloading 7 Mb.../Disconnected 1 5",
+                             "9 Downloading 2 Mb.../Disconnected 1 5"}));
+    EXPECT_EQ(GameState.SoftSize, 9);
+    EXPECT_EQ(GameState.SoftAntivirus, 0);
+}
+
+TEST_F(Lines, HangingUpInsideADownloadLeavesTheTruthInTheStatus)
+{
+    DialInternet();
+    dice.values = {DrawOf(7, 10)};
+    player.duringWait.emplace_back([] { EnterRules(DialInternet); });
+    DownloadAntivirus();
+    EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
+    EXPECT_EQ(GameState.SoftSize, 7);
+}
+
+TEST_F(Lines, SoftwareBeyondItsWidthIsSwallowedAndTheButtonWorksAgain)
+{
+    DialInternet();
+    SetSoftSize(32767);
+    dice.values = {DrawOf(1, 10)};
+    DownloadSoftware();
+    EXPECT_EQ(GameState.SoftSize, 32767);
+    EXPECT_TRUE(player.boxes.empty());
+    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
+}
+
+TEST_F(Lines, ADeathInAPauseAbandonsTheSequenceAndTheNextLifeFindsTheTruth)
+{
+    struct Case {
+        void (*prepare)();
+        void (*sequence)();
+        const char* shown;
+    };
+    const Case cases[]{
+        {[] {}, DialInternet, "Disconnected/Disconnected 1 5 6"},
+        {[] {}, DialBoard, "Disconnected/Disconnected 1 5 6"},
+        {DialInternet, DialInternet, "Connected/Disconnected 1 5 6"},
+        {DialInternet, DownloadSoftware, "Connected/Disconnected 1 5 6"},
+        {DialBoard, ReceiveFromBoard, "Disconnected/Connected 1 5 6"},
+    };
+    dice.otherwise = DrawOf(5, 10);
+    for (const Case& one : cases) {
+        ResetNetwork();
+        one.prepare();
+        NetworkHourTick();
+        DieInTheNextWait();
+        EnterRules(one.sequence);
+        EXPECT_EQ(Shown(), one.shown);
+        EXPECT_EQ(Network().inetWaits + Network().bbsWaits, 0);
+        EXPECT_EQ(GameState.PlayerName, "Пётр");
+        EXPECT_EQ(GameState.Money, 15);
+        EXPECT_EQ(GameState.SoftSize, 0);
+    }
+}
+
+TEST_F(Lines, TheProgramsEndInAPauseIsTheEndOfTheSequence)
+{
+    player.duringWait.emplace_back([] { EnterRules([] { EndProgram(); }); });
+    EnterRules(DialInternet);
+    EXPECT_EQ(Network().InetConnected, False);
+    EXPECT_EQ(player.journal.back(), "end program");
+}
+
+} // namespace
+} // namespace torvenhall::test

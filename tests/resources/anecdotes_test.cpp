@@ -1,0 +1,117 @@
+#include "resources/anecdotes.h"
+
+#include <array>
+#include <filesystem>
+#include <map>
+
+#include "core/errors.h"
+#include "core/random.h"
+#include "support/life.h"
+#include "system/basSystem.h"
+#include "system/codepage.h"
+
+namespace torvenhall::test
+{
+namespace
+{
+
+const std::string Header = "**ANECDOT DATA FILE FOR TORVENHALL BY MARSHEND SOFTWARE**";
+
+class Anecdotes : public Life
+{
+protected:
+    void WriteFile(const std::string& utf8)
+    {
+        ReplaceFile(Folder() + "ANECDOT.DAT", ToWindows1251(utf8));
+    }
+    std::string Drawn(float draw)
+    {
+        dice.values = {draw};
+        return GetAnecdote();
+    }
+};
+
+TEST_F(Anecdotes, GivenFourLinesTheDrawChoosesByItsSixths)
+{
+    WriteFile(Header + "\r\nодин\r\nдва\r\nтри\r\n");
+    const std::pair<float, std::string> draws[]{
+        {0.0F, Header},  {0.166F, Header}, {0.167F, "один"}, {0.499F, "один"}, {0.501F, "два"},
+        {0.833F, "два"}, {0.834F, "три"},  {0.999F, "три"},  {0.5F, "один"}};
+    for (const auto& [draw, line] : draws) {
+        EXPECT_EQ(Drawn(draw), line) << draw;
+    }
+    EXPECT_EQ(dice.reseeds.front(), 4) << "the number of lines is the seed";
+}
+
+TEST_F(Anecdotes, GivenTheRealDiceEveryLineComesWithItsShare)
+{
+    WriteFile(Header + "\r\nодин\r\nдва\r\nтри");
+    RandomDice real(1);
+    Connect({&player, &real, &clock});
+    constexpr int draws = 6000;
+    std::map<std::string, int> counts;
+    for (int i = 0; i < draws; ++i) {
+        ++counts[GetAnecdote()];
+    }
+    const std::pair<std::string, int> shares[]{
+        {Header, draws / 6}, {"один", draws / 3}, {"два", draws / 3}, {"три", draws / 6}};
+    for (const auto& [line, share] : shares) {
+        EXPECT_NEAR(counts[line], share, 200) << line;
+    }
+}
+
+TEST_F(Anecdotes, EveryBreakMarkBecomesALineBreak)
+{
+    WriteFile(Header + "\r\nА<CRLF>Б<CRLF><crlf>");
+    EXPECT_EQ(Drawn(0.9F), "А\r\nБ\r\n<crlf>");
+}
+
+TEST_F(Anecdotes, LinesWithoutCarriageReturnAreLinesToo)
+{
+    WriteFile(Header + "\nодин\n\nтри\n");
+    EXPECT_EQ(Drawn(0.99F), "три");
+    EXPECT_EQ(Drawn(0.6F), "");
+    EXPECT_TRUE(player.boxes.empty());
+}
+
+TEST_F(Anecdotes, AMissingFileIsToldAndGivesNothing)
+{
+    EXPECT_EQ(GetAnecdote(), "");
+    EXPECT_EQ(player.BoxTexts(), std::vector<std::string>{"Ошибка 541: Файл анекдотов '" +
+                                                          Folder() + "anecdot.dat' не найден"});
+    EXPECT_EQ(player.boxes.front().icon, Icon::Critical);
+}
+
+TEST_F(Anecdotes, ADamagedHeaderIsToldAndTheFileUsedAllTheSame)
+{
+    WriteFile(Header + " \r\nодин\r\n");
+    EXPECT_EQ(Drawn(0.9F), "один");
+    EXPECT_EQ(player.BoxTexts(),
+              std::vector<std::string>{"Ошибка 745: Файл анекдотов '" + Folder() +
+                                       "anecdot.dat' повреждён или имеет неверный формат"});
+}
+
+TEST_F(Anecdotes, AFileOfItsHeaderAloneGivesTheHeader)
+{
+    WriteFile(Header);
+    EXPECT_EQ(Drawn(0.9F), Header);
+}
+
+TEST_F(Anecdotes, AnEmptyFileOrTooManyLinesAreReportedAndRaised)
+{
+    std::string endless = Header;
+    for (int i = 0; i < 32767; ++i) {
+        endless += "\r\n1";
+    }
+    const std::pair<std::string, int> files[]{{"", error::Subscript}, {endless, error::Overflow}};
+    for (const auto& [text, number] : files) {
+        WriteFile(text);
+        player.Forget();
+        EXPECT_EQ(ErrorOf([] { GetAnecdote(); }).number, number);
+        ASSERT_EQ(player.boxes.size(), 1U);
+        EXPECT_NE(player.boxes.front().text.find("№ " + std::to_string(number)), std::string::npos);
+    }
+}
+
+} // namespace
+} // namespace torvenhall::test
