@@ -5,6 +5,7 @@
 #include "core/GameState.h"
 #include "core/life.h"
 #include "core/outside.h"
+#include "network/network.h"
 #include "savegame/savegame.h"
 #include "system/basSystem.h"
 
@@ -14,6 +15,7 @@ namespace torvenhall
 void GoOnline()
 {
     if (GameState.HardComm >= 1 && GameState.SoftBrowser >= 1) {
+        SayTrueStatus();
         Windows().OpenWindow(Window::frmNetwork);
     } else {
         // The message names a system that is not asked for, on purpose.

@@ -10,6 +10,7 @@
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
 #include "events/family.h"
+#include "savegame/format.h"
 #include "system/text.h"
 
 namespace torvenhall
@@ -95,7 +96,7 @@ void NewGame()
     SetStartingValues(player);
     EmptyTheComputer();
     ShowTime();
-    Windows().SetMainTitle("Marshend Torvenhall 1.5 - " + GameState.PlayerName);
+    Windows().SetMainTitle(std::string(ApplicationTitle) + " - " + GameState.PlayerName);
     Windows().ShowMainWindow();
 }
 

@@ -121,6 +121,12 @@ bool InstallSoftware(Int16 category, Int16 index)
     return installed;
 }
 
+void ShowSoftware(Int16 category)
+{
+    const SoftwareSlot& slot = SlotOf(SoftwareSlots, category);
+    ShowLabel(slot.label, GetSoftwareName(category, GameState.*slot.field));
+}
+
 void SetSoftSize(Int16 megabytes)
 {
     ShowLabel(Label::lblOther, Decimal(megabytes) + " Мб");

@@ -18,6 +18,9 @@ void InstallHardware(Int16 category, Int16 index, bool pay);
 /// returns false. An index outside the list does nothing and returns false.
 bool InstallSoftware(Int16 category, Int16 index);
 
+/// Shows the name of what the category's field holds.
+void ShowSoftware(Int16 category);
+
 /// Shows and stores the size of the other software, megabytes.
 void SetSoftSize(Int16 megabytes);
 

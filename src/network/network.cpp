@@ -54,7 +54,7 @@ constexpr std::array BoardCall{
 constexpr std::array HangUp{Step{"Status: Disconnecting...", 1}};
 
 constexpr std::array<std::string_view, 3> SiteAddresses{
-    "www.virusolov.torv", "www.svezhiy-soft.torv", "www.anekdoty.torv"};
+    "www.virusolov.example", "www.svezhiy-soft.example", "www.anekdoty.example"};
 
 void Refresh()
 {
@@ -67,8 +67,7 @@ void Say(const Line& line, std::string_view status)
     Refresh();
 }
 
-/// Nothing but a closed line or an open one is left to say after a sequence;
-/// the player may have hung up while it waited.
+/// What is left to say of a line when nothing runs on it.
 void SayTruth(const Line& line)
 {
     Say(line, network.*line.isUp == True ? Connected : Disconnected);
@@ -135,7 +134,7 @@ void TransferWithBoard(std::string_view verb, bool receives)
         const Int16 size = DrawSize();
         const std::string amount = Decimal(size * 1024);
         SayAndWait(Board, "Status: " + std::string(verb) + " " + amount + " Data...", size.value());
-        SayTruth(Board);
+        Say(Board, Connected);
         if (receives) {
             SetSoftSize(GameState.SoftSize + size);
         }
@@ -151,7 +150,7 @@ void DownloadFromSite(bool enablesSoftware)
         SayAndWait(Internet, "Status: Downloading " + Decimal(size) + " Mb...", size.value());
         SetSoftSize(GameState.SoftSize + size);
         network.downloadEnabled = enablesSoftware;
-        SayTruth(Internet);
+        Say(Internet, Connected);
     });
 }
 
@@ -171,6 +170,15 @@ void TrafficEvent()
 {
     if (network.InetConnected == True) {
         network.TrafficHours = network.TrafficHours + 1;
+    }
+}
+
+void SayTrueStatus()
+{
+    for (const Line& line : {Internet, Board}) {
+        if (network.*line.waits == 0) {
+            SayTruth(line);
+        }
     }
 }
 

@@ -38,6 +38,10 @@ void TrafficEvent();
 
 /// Command1: dials the Internet, or hangs up and takes $1 for each hour
 /// online since the program began, the ones paid before included.
+/// Makes the status lines tell the lines' state where nothing runs; for a
+/// window that opens.
+void SayTrueStatus();
+
 void DialInternet();
 /// Command5 and Command8: dials the bulletin board, or hangs up.
 void DialBoard();

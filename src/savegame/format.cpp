@@ -1,7 +1,7 @@
 #include "savegame/format.h"
 
 #include <algorithm>
-#include <vector>
+#include <array>
 
 #include "system/basSystem.h"
 #include "system/codepage.h"
@@ -156,13 +156,12 @@ std::string EncodeGame(const GameStateRecord& game)
 
 SavedGame DecodeGame(std::string_view bytes)
 {
-    const std::vector<std::string> lines = Split(ShiftCharsUp(std::string(bytes)), LineBreak);
+    SavedGame lines = Split(ShiftCharsUp(std::string(bytes)), LineBreak);
     if (lines.size() > SavedLines) {
         throw RuntimeError{error::Subscript, {}};
     }
-    SavedGame game;
-    std::ranges::transform(lines, game.begin(), FromWindows1251);
-    return game;
+    std::ranges::transform(lines, lines.begin(), FromWindows1251);
+    return lines;
 }
 
 void ReadField(GameStateRecord& game, std::size_t line, std::string_view text)

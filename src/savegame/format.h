@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/GameState.h"
 
@@ -17,13 +17,13 @@ namespace torvenhall
 inline constexpr std::string_view ApplicationTitle = "Marshend Torvenhall 1.5";
 
 inline constexpr std::size_t SavedLines = 38;
-using SavedGame = std::array<std::string, SavedLines>;
+using SavedGame = std::vector<std::string>;
 
 /// The bytes of the file for a game.
 std::string EncodeGame(const GameStateRecord& game);
 
-/// The lines of a file's bytes, UTF-8; missing ones are empty. Error 9 for
-/// more lines than a game has.
+/// The lines of a file's bytes, UTF-8: at least one. Error 9 for more lines
+/// than a game has.
 SavedGame DecodeGame(std::string_view bytes);
 
 /// Converts one line, counted from 1, into its field; the first line has

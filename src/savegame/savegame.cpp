@@ -1,6 +1,7 @@
 #include "savegame/savegame.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include "activities/work.h"
@@ -110,10 +111,6 @@ void ApplyLine(std::size_t line, const std::string& text)
     shown->set(read);
 }
 
-constexpr std::array<Label, SoftwareCategories> SoftwareLabels{Label::lblOs,   Label::lblAntiv,
-                                                               Label::lblProg, Label::lblGraphic,
-                                                               Label::lblInet, Label::lblGames};
-
 /// Installs what the fields hold already, so that it is shown and checked.
 void InstallEquipment()
 {
@@ -121,11 +118,9 @@ void InstallEquipment()
         InstallHardware(category, HardwareField(category), false);
     }
     for (int category = 0; category < SoftwareCategories; ++category) {
-        const Int16 saved = SoftwareField(category);
-        if (!InstallSoftware(category, saved)) {
+        if (!InstallSoftware(category, SoftwareField(category))) {
             // Lost hardware never uninstalls: the program stays.
-            ShowLabel(SoftwareLabels[static_cast<std::size_t>(category)],
-                      GetSoftwareName(category, saved));
+            ShowSoftware(category);
         }
     }
 }
@@ -135,7 +130,10 @@ void ApplyGame(const SavedGame& game)
     const Running load(Running::What::Load);
     BeginAnotherLife();
     ShowLabel(Label::lblMessage, "");
-    for (std::size_t line = 2; line <= game.size(); ++line) {
+    for (std::size_t line = 2; line <= SavedLines; ++line) {
+        if (line > game.size()) {
+            throw RuntimeError{error::TypeMismatch, {}}; // the file ends too soon
+        }
         ApplyLine(line, game[line - 1]);
     }
     InstallEquipment();

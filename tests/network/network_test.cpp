@@ -174,14 +174,16 @@ TEST_F(Lines, TheSoftwareSiteGivesOnceUntilTheAntivirusSiteGives)
     EXPECT_EQ(GameState.SoftAntivirus, 0);
 }
 
-TEST_F(Lines, HangingUpInsideADownloadLeavesTheTruthInTheStatus)
+TEST_F(Lines, HangingUpInsideADownloadIsToldByTheWindowThatOpensNext)
 {
     DialInternet();
     dice.values = {DrawOf(7, 10)};
     player.duringWait.emplace_back([] { EnterRules(DialInternet); });
     DownloadAntivirus();
-    EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
+    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6") << "a finished download says so";
     EXPECT_EQ(GameState.SoftSize, 7);
+    SayTrueStatus();
+    EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
 }
 
 TEST_F(Lines, SoftwareBeyondItsWidthIsSwallowedAndTheButtonWorksAgain)

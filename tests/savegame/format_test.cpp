@@ -27,11 +27,10 @@ TEST(SavedGameFormat, TheKeptFileReadsBackAsTheKnownLife)
     EXPECT_EQ(EncodeGame(read), EncodeGame(KnownLife()));
 }
 
-TEST(SavedGameFormat, GivenFewerLinesTheMissingOnesAreEmptyAndGivenMoreItIsAnError)
+TEST(SavedGameFormat, FewerLinesAreReadAsTheyAreAndMoreAreAnError)
 {
-    const SavedGame two = DecodeGame(ShiftCharsDown("a\r\nb"));
-    EXPECT_EQ(two[1], "b");
-    EXPECT_EQ(two[2], "");
+    EXPECT_EQ(DecodeGame(ShiftCharsDown("a\r\nb")), (SavedGame{"a", "b"}));
+    EXPECT_EQ(DecodeGame(""), SavedGame{""});
     const std::string full = EncodeGame(KnownLife());
     EXPECT_EQ(ErrorOf([&] { DecodeGame(full + ShiftCharsDown("\r\n")); }).number, error::Subscript);
 }

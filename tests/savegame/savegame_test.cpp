@@ -295,12 +295,13 @@ TEST_F(SavedGames, EachDamagedLineStopsTheLoadThereAndIsReported)
     }
 }
 
-TEST_F(SavedGames, GivenAFileCutShortTheLinesBeforeAreApplied)
+TEST_F(SavedGames, GivenAFileCutShortItsLinesAreAppliedAndTheRestKeepsItsValues)
 {
     Write("short", ShiftCharsDown("Marshend Torvenhall 1.5\r\n100\r\n-5\r\n12:30\r\n03.02.2001"));
     Load("short");
     EXPECT_EQ(GameState.Money, 100);
     EXPECT_EQ(GameState.Happy, -5);
+    EXPECT_EQ(GameState.PlayerName, "Иван");
     EXPECT_EQ(GameState.Health, 40);
     EXPECT_EQ(LabelShown(Label::lblTime), "3 февраля 2001 г. - 12:30");
     EXPECT_EQ(player.boxes.size(), 1U);
