@@ -72,16 +72,20 @@ void ShowVirusWindow()
 void Pause(double seconds)
 {
     const double start = WallSeconds();
-    for (double left = seconds; left > 0; left = seconds - (WallSeconds() - start)) {
+    double left = seconds;
+    while (left > 0) {
         AwaitEvents(left);
+        left = seconds - (WallSeconds() - start);
     }
 }
 
 void WaitSeconds(int n)
 {
     const double start = WallSeconds();
-    for (double elapsed = 0; Round(elapsed) < n; elapsed = WallSeconds() - start) {
+    double elapsed = 0;
+    while (Round(elapsed) < n) {
         AwaitEvents(n - elapsed);
+        elapsed = WallSeconds() - start;
     }
 }
 
