@@ -81,10 +81,13 @@ void Pause(double seconds)
 
 void WaitSeconds(int n)
 {
+    // The rounding is reached half a second early; a tie may round down, so a
+    // little after it.
+    constexpr double roundsUpAfter = 0.501;
     const double start = WallSeconds();
     double elapsed = 0;
     while (Round(elapsed) < n) {
-        AwaitEvents(n - elapsed);
+        AwaitEvents(n - 1 + roundsUpAfter - elapsed);
         elapsed = WallSeconds() - start;
     }
 }

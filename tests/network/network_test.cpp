@@ -5,6 +5,7 @@
 #include "core/life.h"
 #include "equipment/basEquipment.h"
 #include "support/life.h"
+#include "system/convert.h"
 
 namespace torvenhall::test
 {
@@ -25,13 +26,14 @@ protected:
                (lines.downloadEnabled ? " 6" : "");
     }
 
-    /// What the following pauses show, each with the second of its end.
+    /// What the following pauses show, each with the half second of its end:
+    /// rounding ends each a little more than half a second early.
     void WatchPauses(int count)
     {
         for (int i = 0; i < count; ++i) {
             player.duringWait.emplace_back([this] {
-                pauses.push_back(std::to_string(static_cast<int>(player.seconds - began)) + " " +
-                                 Shown());
+                const double halves = Round((player.seconds - began) * 2) / 2;
+                pauses.push_back(DecimalOf(halves) + " " + Shown());
             });
         }
         pauses.clear();
@@ -55,14 +57,14 @@ TEST_F(Lines, DiallingTheInternetShowsEachStepForItsSeconds)
     WatchPauses(4);
     DialInternet();
     EXPECT_EQ(pauses,
-              (Texts{"1 Initializing.../Disconnected 5 6", "6 Dialing 555-28-64/Disconnected 5 6",
-                     "7 Connecting.../Disconnected 5 6", "10 Verifying.../Disconnected 5 6"}));
+              (Texts{"0.5 Initializing.../Disconnected 5 6", "5 Dialing 555-28-64/Disconnected 5 6",
+                     "5.5 Connecting.../Disconnected 5 6", "8 Verifying.../Disconnected 5 6"}));
     EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
     EXPECT_EQ(Network().InetConnected, True);
 
     WatchPauses(1);
     DialInternet();
-    EXPECT_EQ(pauses, (Texts{"1 Disconnecting.../Disconnected 5 6"}));
+    EXPECT_EQ(pauses, (Texts{"0.5 Disconnecting.../Disconnected 5 6"}));
     EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
 }
 
@@ -71,15 +73,15 @@ TEST_F(Lines, DiallingTheBoardHasNoVerifyingStepAndCostsNothing)
     WatchPauses(3);
     DialBoard();
     EXPECT_EQ(pauses,
-              (Texts{"1 Disconnected/Initializing... 1 6", "6 Disconnected/Dialing 555-91-00 1 6",
-                     "7 Disconnected/Connecting... 1 6"}));
+              (Texts{"0.5 Disconnected/Initializing... 1 6", "5 Disconnected/Dialing 555-91-00 1 6",
+                     "5.5 Disconnected/Connecting... 1 6"}));
     EXPECT_EQ(Shown(), "Disconnected/Connected 1 5 6");
     EXPECT_EQ(Network().BbsConnected, True);
     NetworkHourTick();
 
     WatchPauses(1);
     DialBoard();
-    EXPECT_EQ(pauses, (Texts{"1 Disconnected/Disconnecting... 1 6"}));
+    EXPECT_EQ(pauses, (Texts{"0.5 Disconnected/Disconnecting... 1 6"}));
     EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
     EXPECT_EQ(GameState.Money, 15);
 }
@@ -132,8 +134,8 @@ TEST_F(Lines, AReceivedFileAddsItsMegabytesAndASentOneNothing)
     EXPECT_EQ(LabelShown(Label::lblOther), "5 Мб");
     SendToBoard();
     EXPECT_EQ(GameState.SoftSize, 5);
-    EXPECT_EQ(pauses, (Texts{"5 Disconnected/Receiving 5120 Data... 1 5 6",
-                             "15 Disconnected/Sending 10240 Data... 1 5 6"}));
+    EXPECT_EQ(pauses, (Texts{"4.5 Disconnected/Receiving 5120 Data... 1 5 6",
+                             "14 Disconnected/Sending 10240 Data... 1 5 6"}));
     EXPECT_EQ(Shown(), "Disconnected/Connected 1 5 6");
 }
 
@@ -168,8 +170,8 @@ TEST_F(Lines, TheSoftwareSiteGivesOnceUntilTheAntivirusSiteGives)
     EXPECT_EQ(Shown(), "Connected/Disconnected 1 5");
     DownloadAntivirus();
     EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
-    EXPECT_EQ(pauses, (Texts{"7 Downloading 7 Mb.../Disconnected 1 5",
-                             "9 Downloading 2 Mb.../Disconnected 1 5"}));
+    EXPECT_EQ(pauses, (Texts{"6.5 Downloading 7 Mb.../Disconnected 1 5",
+                             "8 Downloading 2 Mb.../Disconnected 1 5"}));
     EXPECT_EQ(GameState.SoftSize, 9);
     EXPECT_EQ(GameState.SoftAntivirus, 0);
 }
