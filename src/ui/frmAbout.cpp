@@ -33,6 +33,7 @@ frmAbout::frmAbout(QWidget* parent) : GameWindow("frmAbout", 460, 346, parent)
     AddLabel("Label3", "Версия 1.5 Full для Windows 98 SE/Me", {25, 54, 372, 20},
              TextFont(12.5, true))
         ->SetColour(colour::Warm);
+    Surface().AddPanel({0, 40, 460, 62}, Scene::Panel::Shade);
     Surface().AddPanel({14, 160, 432, 118});
     double top = 165;
     for (const char* line : Lines) {

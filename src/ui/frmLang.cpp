@@ -20,12 +20,14 @@ frmLang::frmLang(QWidget* parent)
     Surface().AddPanel({12, 12, 356, 306}, Scene::Panel::Deep);
     AddLabel("Label1", "Present Languages:", {26, 20, 328, 20}, TextFont(12));
     list->setObjectName("List1");
+    list->setAccessibleName("Present Languages:");
     list->setGeometry(PxRect({26, 42, 328, 104}));
     for (const std::string& file : LangFiles()) {
         list->addItem(QFileInfo(Text(file)).completeBaseName());
     }
     AddLabel("Label2", "Language Info:", {26, 152, 328, 20}, TextFont(12));
     info->setObjectName("Text1");
+    info->setAccessibleName("Language Info:");
     info->setReadOnly(true);
     info->setGeometry(PxRect({26, 174, 328, 90}));
     AddButton("Command1", "Select", {158, 276, 96, 30});

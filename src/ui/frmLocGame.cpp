@@ -38,11 +38,13 @@ frmLocGame::frmLocGame(const GameNameQuestion& question, QWidget* parent)
 void frmLocGame::AddEntries(const GameNameQuestion& question)
 {
     list->setObjectName("List1");
+    list->setAccessibleName(Text(question.heading));
     list->setGeometry(PxRect({26, 44, 328, 186}));
     for (const std::string& game : question.games) {
         list->addItem(Text(game));
     }
     name->setObjectName("Text1");
+    name->setAccessibleName("Название игры");
     name->setGeometry(PxRect({26, 238, 328, 28}));
     name->setEnabled(question.saving);
     const auto pick = [this](const QListWidgetItem* item) { name->setText(item->text()); };

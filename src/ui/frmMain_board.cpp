@@ -115,12 +115,14 @@ void frmMain::BuildClock()
 
 void frmMain::AddTile(const QString& caption, Label label, const QRectF& place, Gauge::Kind kind)
 {
-    scene->AddPanel(place);
+    const bool mayTurnRed = place.top() >= VitalsTop;
+    scene->AddPanel(place, mayTurnRed ? Scene::Panel::Deep : Scene::Panel::Glass);
     const QRectF inside = place.adjusted(9, 0, -9, 0);
-    AddCaption(caption, {inside.left(), place.top() + 4, inside.width(), 12}, 10.5);
+    AddCaption(caption, {inside.left(), place.top() + 2, inside.width(), 15}, 10.5);
     const bool bare = label == Label::lblFamily;
     AddLabel(label, {inside.left(), place.top() + 15, inside.width(), bare ? 20.0 : 18.0},
-             TextFont(15, true));
+             TextFont(15, true))
+        ->SetSpokenCaption(caption);
     if (!bare) {
         auto* gauge = new Gauge(kind, scene);
         gauge->setGeometry(PxRect({inside.left(), place.top() + 34, inside.width(), 3}));
@@ -151,7 +153,7 @@ void frmMain::BuildStatistics()
 void frmMain::AddRow(const QString& caption, Label label, const QRectF& place)
 {
     AddCaption(caption, {place.left(), place.top(), CaptionWidth - 5, place.height()}, 10.5);
-    AddLabel(label, place.adjusted(CaptionWidth, 0, 0, 0), TextFont(11));
+    AddLabel(label, place.adjusted(CaptionWidth, 0, 0, 0), TextFont(11))->SetSpokenCaption(caption);
 }
 
 void frmMain::BuildComputer()
@@ -178,9 +180,9 @@ void frmMain::BuildComputer()
     const double settings = ComputerTop + SoftwareHeight + Gap;
     const double height = ComputerTop + ComputerHeight - settings;
     scene->AddPanel({second, settings, SoftwareWidth, height});
-    const double line = (height - 4) / 2;
-    AddLabel(Label::lblGameLevel, {second + 9, settings + 2, softwareText, line}, TextFont(10.5));
-    AddLabel(Label::lblGameSpeed, {second + 9, settings + 2 + line, softwareText, line},
+    const double line = height / 2 - 1;
+    AddLabel(Label::lblGameLevel, {second + 9, settings + 1, softwareText, line}, TextFont(10.5));
+    AddLabel(Label::lblGameSpeed, {second + 9, settings + 1 + line, softwareText, line},
              TextFont(10.5));
 }
 

@@ -167,6 +167,7 @@ void frmNetwork::BuildSites()
     connect(next, &QAbstractButton::clicked, this, &frmNetwork::ShowAnecdote);
     anecdote = new QTextEdit(anecdotes);
     anecdote->setObjectName("txtAnecdot");
+    anecdote->setAccessibleName("Anecdot");
     anecdote->setAcceptRichText(false);
     anecdote->setTabChangesFocus(true);
     anecdote->setFont(TextFont(12));

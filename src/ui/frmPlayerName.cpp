@@ -24,11 +24,13 @@ frmPlayerName::frmPlayerName(const NewPlayer& shown, QWidget* parent)
         ->SetColour(colour::LightCyan);
     name = new QLineEdit(Text(shown.name), &Surface());
     name->setObjectName("Text1");
+    name->setAccessibleName("Имя");
     name->setFont(TextFont(13));
     name->setGeometry(PxRect({30, 188, 282, 28}));
     name->installEventFilter(this);
     level = new QComboBox(&Surface());
     level->setObjectName("Combo1");
+    level->setAccessibleName("Уровень сложности");
     level->addItems({"Сложный", "Нормальный", "Простой"});
     level->setCurrentIndex(shown.level);
     level->setGeometry(PxRect({322, 188, 148, 28}));

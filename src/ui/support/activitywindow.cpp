@@ -98,8 +98,9 @@ void ActivityWindow::AddStripItem(int index, const QString& caption, Label label
     const double item = (stripWidth - 12) / 4;
     const double left = Margin + 10 + index * item;
     const double top = height - Margin - StripHeight;
-    AddLabel({}, caption, {left, top + 3, item - 8, 11}, TextFont(9.5))->SetColour(colour::Caption);
+    AddLabel({}, caption, {left, top + 1, item - 8, 14}, TextFont(9.5))->SetColour(colour::Caption);
     GameLabel* value = AddLabel({}, {}, {left, top + 13, item - 8, 15}, TextFont(12.5, true));
+    value->SetSpokenCaption(caption);
     strip.emplace_back(label, value);
     ShowStripItem(label);
 }

@@ -108,6 +108,7 @@ InputWindow::InputWindow(const QString& prompt, const QString& title, QWidget* p
     AddLabel("Prompt", prompt, {22, 16, 286, 24}, TextFont(12));
     entry = new QLineEdit(&Surface());
     entry->setObjectName("Text1");
+    entry->setAccessibleName(prompt);
     entry->setGeometry(PxRect({22, 42, 286, 26}));
     GameButton* accept = AddButton("Command1", "OK", {112, 78, 94, 28});
     GameButton* cancel = AddButton("Command2", "Отмена", {214, 78, 94, 28});

@@ -77,7 +77,7 @@ QColor GameButton::Ink() const
         return colour::Faint;
     }
     if (muted) {
-        return {132, 146, 154};
+        return {150, 163, 170};
     }
     return underMouse() || isDown() ? colour::LightCyan : colour::Text;
 }
@@ -92,8 +92,8 @@ void GameButton::PaintFace(QPainter& painter) const
     QLinearGradient fill(face.topLeft(), face.bottomLeft());
     QColor edge(140, 214, 226, 96);
     if (!isEnabled()) {
-        fill.setColorAt(0, QColor(16, 22, 30, 150));
-        fill.setColorAt(1, QColor(12, 17, 24, 150));
+        fill.setColorAt(0, QColor(14, 19, 27, 200));
+        fill.setColorAt(1, QColor(10, 15, 22, 200));
         edge.setAlpha(34);
     } else if (isDown()) {
         fill.setColorAt(0, QColor(9, 40, 50, 245));

@@ -52,6 +52,7 @@ void GameWindow::AddSlogan(const QString& name, const QString& shadowName, const
                            const QRectF& place, double height)
 {
     const QFont font = TextFont(height, true);
+    scene->AddPanel({0, 0, widthUnits, place.bottom() + 26}, Scene::Panel::Shade);
     GameLabel* shadow = AddLabel(shadowName, text, place.translated(1.6, 1.8), font);
     shadow->SetColour(QColor(0, 0, 0, 210));
     GameLabel* slogan = AddLabel(name, text, place, font);

@@ -57,6 +57,15 @@ void GameLabel::ShowText(const QString& newText)
     if (text() != newText) {
         setText(newText);
         setToolTip(TextFits() ? QString() : newText);
+        SetSpokenCaption(spokenCaption);
+    }
+}
+
+void GameLabel::SetSpokenCaption(const QString& caption)
+{
+    spokenCaption = caption;
+    if (!caption.isEmpty()) {
+        setAccessibleName(caption + ": " + text());
     }
 }
 

@@ -18,6 +18,8 @@ public:
     QColor Colour() const { return colour; }
     /// Sets the text unless it is shown already.
     void ShowText(const QString& text);
+    /// The caption that a screen reader says before the text.
+    void SetSpokenCaption(const QString& caption);
     /// Whether the whole text is on screen.
     bool TextFits() const;
 
@@ -31,6 +33,7 @@ protected:
 
 private:
     QColor colour;
+    QString spokenCaption;
 };
 
 /// The message line: a terminal with a block cursor behind what is typed.

@@ -21,7 +21,8 @@ QPixmap LoadBackground(std::string_view key, QSize size, double pixelRatio);
 /// A picture that is not a window's background, by its embedded name.
 QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio);
 
-/// The same picture as seen through frosted glass.
-QPixmap Frosted(const QPixmap& picture);
+/// The same picture as seen through frosted glass, its lights dimmed to a
+/// relative luminance of 0..1 so that a text over it stays readable.
+QPixmap Frosted(const QPixmap& picture, double brightest);
 
 } // namespace torvenhall

@@ -15,7 +15,9 @@ namespace torvenhall
 class Scene : public QWidget
 {
 public:
-    enum class Panel : unsigned char { Glass, Deep };
+    /// Glass for most texts; Deep, nearly black, for red ones too; Shade, a
+    /// darkness without a border that ends softly, behind a slogan.
+    enum class Panel : unsigned char { Glass, Deep, Shade };
 
     /// Size in units.
     Scene(double width, double height, QWidget* parent);
@@ -35,13 +37,11 @@ private:
         Panel kind;
     };
     void Compose();
+    void PaintPlates(QPainter& painter, Panel kind) const;
 
     QPixmap picture;
     QPixmap composed; ///< picture and panels, ready to be copied to the screen
     std::vector<Plate> plates;
 };
-
-/// Draws one panel with its slim border; place in toolkit pixels.
-void PaintPanel(QPainter& painter, const QRectF& place, const QPixmap& frosted, Scene::Panel kind);
 
 } // namespace torvenhall

@@ -1,8 +1,13 @@
 #include "ui/support/theme.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOption>
+
+#include <algorithm>
 
 #include "ui/support/glyphs.h"
 #include "ui/support/metrics.h"
@@ -36,6 +41,34 @@ public:
         }
     }
 
+    /// The focus is marked on every control alike, however it got there.
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override
+    {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control == CC_ComboBox) {
+            MarkFocus(*option, *painter);
+        }
+    }
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        if (element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea*>(widget)) {
+            MarkFocus(*option, *painter);
+        }
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override
+    {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element == PE_FrameLineEdit) {
+            MarkFocus(*option, *painter);
+        }
+    }
+
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override
     {
@@ -43,6 +76,16 @@ public:
             return Px(36);
         }
         return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
+private:
+    static void MarkFocus(const QStyleOption& option, QPainter& painter)
+    {
+        if (option.state & State_HasFocus) {
+            painter.setPen(QPen(colour::Warm, std::max(1.0, UnitScale())));
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+        }
     }
 };
 

@@ -15,7 +15,7 @@ inline constexpr QColor LightCyan{192, 255, 255};
 inline constexpr QColor Danger{255, 0, 0};
 inline constexpr QColor Text{226, 240, 244};
 inline constexpr QColor Caption{143, 176, 188};
-inline constexpr QColor Faint{112, 132, 143};
+inline constexpr QColor Faint{124, 144, 155};
 inline constexpr QColor Warm{255, 206, 132};
 inline constexpr QColor Panel{6, 11, 19, 134};
 inline constexpr QColor PanelDeep{4, 8, 14, 206};

@@ -47,6 +47,9 @@ int WindowList::Run(QDialog* dialog)
     const int result = dialog->exec();
     --running;
     Bury(dialog);
+    if (QWidget* beneath = Top()) {
+        beneath->activateWindow(); // some desktops leave no window active
+    }
     return result;
 }
 
