@@ -90,16 +90,14 @@ const ServiceWindow FoodShop{
 
 bool CanAfford(const ServiceWindow& window, const Service& service)
 {
-    const Int32 left = GameState.Money - service.price;
-    return window.needsMoreThanPrice ? left > 0 : left >= 0;
+    const Int32 price = service.price;
+    return window.needsMoreThanPrice ? GameState.Money > price : GameState.Money >= price;
 }
 
 void BuyService(const ServiceWindow& window, std::size_t index)
 {
     const Service& service = window.services[index];
-    bool affordable = false;
-    Trapped([&] { affordable = CanAfford(window, service); });
-    if (!affordable) {
+    if (!CanAfford(window, service)) {
         MsgBox(window.refusal, window.refusalTitle, Icon::Information);
         return;
     }

@@ -105,6 +105,8 @@ void BeginDay()
     }
 }
 
+/// An overflowing score, from an edited file, is no win and, as anything that
+/// fails in a tick, nobody's box.
 bool HasWon()
 {
     bool won = false;

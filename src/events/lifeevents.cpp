@@ -69,14 +69,16 @@ void Dismissal()
 
 void Burglary()
 {
+    // The level may change while the message is typed; the event keeps its own.
     const int divisor = OfLevel(BurglaryDivisors);
+    const Changes& changes = OfLevel(BurglaryChanges);
     const auto money = [] { return static_cast<double>(GameState.Money.value()); };
     // The sum named and the sum taken are rounded each on its own.
     ShowMessage("Сообщение от Майора Милиции Dutaig.: Мне очень жаль, но к вам пробрались "
                 "грабители и стащили " +
                 DecimalOf(Round(money() / divisor)) + " долларов.");
     SetMoney(ToInt32(Round(money() - money() / divisor)));
-    ApplyAll(OfLevel(BurglaryChanges));
+    ApplyAll(changes);
 }
 
 void Birth()

@@ -30,6 +30,10 @@ void NetworkHourTick();
 /// The same; error 6 when the hours overflow.
 void TrafficEvent();
 
+/// Makes the status lines tell the lines' state where nothing runs; for a
+/// window that opens.
+void SayTrueStatus();
+
 // The window's buttons. Each runs its status texts and pauses to the end,
 // whether the window stays open or not, and returns then. A line that is
 // busy with the other kind of call is refused silently, and errors are
@@ -38,10 +42,6 @@ void TrafficEvent();
 
 /// Command1: dials the Internet, or hangs up and takes $1 for each hour
 /// online since the program began, the ones paid before included.
-/// Makes the status lines tell the lines' state where nothing runs; for a
-/// window that opens.
-void SayTrueStatus();
-
 void DialInternet();
 /// Command5 and Command8: dials the bulletin board, or hangs up.
 void DialBoard();

@@ -127,8 +127,6 @@ void InstallEquipment()
 
 void ApplyGame(const SavedGame& game)
 {
-    const Running load(Running::What::Load);
-    BeginAnotherLife();
     ShowLabel(Label::lblMessage, "");
     for (std::size_t line = 2; line <= SavedLines; ++line) {
         if (line > game.size()) {
@@ -165,10 +163,13 @@ void LoadNamedGame(const std::string& name)
         MsgBox("Некорректная версия", "Загрузка игры", Icon::Critical);
         return;
     }
+    // No tick comes between the lines, nor under the boxes that they cause.
+    const Running load(Running::What::Load);
+    BeginAnotherLife();
     const RuntimeError failure = ErrorOf([&] { ApplyGame(game); });
     ShowTime();
     if (failure.number != 0) {
-        throw failure;
+        ReportError(failure.number, failure.what);
     }
 }
 

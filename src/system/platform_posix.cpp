@@ -228,7 +228,7 @@ std::string UserDataDirectory()
         return AddBackslash(data) + "torvenhall";
     }
     const char* home = std::getenv("HOME");
-    if (home == nullptr || *home == '\0') {
+    if (home == nullptr || *home != PathSeparator) {
         const passwd* const user = ::getpwuid(::getuid());
         home = user != nullptr ? user->pw_dir : "";
     }

@@ -37,7 +37,9 @@ std::string FindProgram(std::string_view name)
     }
     for (const std::string& folder : Split(searchPath, PathListSeparator)) {
         const std::filesystem::path candidate = std::filesystem::path(folder) / name;
-        if (!folder.empty() && IsExecutable(candidate)) {
+        // The game changes the current directory, so a relative entry of the
+        // search path would lead anywhere.
+        if (candidate.is_absolute() && IsExecutable(candidate)) {
             return candidate.string();
         }
     }

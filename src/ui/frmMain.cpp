@@ -1,8 +1,10 @@
 #include "ui/frmMain.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QPainter>
 #include <QTimer>
 
 #include "core/GameState.h"
@@ -30,6 +32,36 @@ constexpr double Width = WidthTwips / 15.0;
 constexpr double Height = HeightTwips / 15.0 - MenuHeight;
 
 constexpr int TickMilliseconds = 250;
+
+/// Lies over the main window while the game is paused: everything is dimmed,
+/// and two bars stand across it. Clicks go through.
+class PauseVeil : public QWidget
+{
+public:
+    explicit PauseVeil(QWidget* parent) : QWidget(parent)
+    {
+        setObjectName("PauseVeil");
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setGeometry(parent->rect());
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillRect(rect(), QColor(3, 6, 12, 120));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(192, 255, 255, 46));
+        const QSizeF bar(width() * 0.13, height() * 0.56);
+        const double top = (height() - bar.height()) / 2;
+        for (const double middle : {0.38, 0.62}) {
+            const QRectF place({width() * middle - bar.width() / 2, top}, bar);
+            painter.drawRoundedRect(place, Px(10), Px(10));
+        }
+    }
+};
 
 /// The whole number in a label's text ("$15", "-3%").
 double NumberIn(QString text)
@@ -70,6 +102,8 @@ frmMain::frmMain(LabelBoard& newBoard)
     BuildSettingsMenus();
     BuildHelpMenu();
 
+    pauseVeil = new PauseVeil(scene);
+
     tmrTime->setObjectName("tmrTime");
     tmrTime->setTimerType(Qt::PreciseTimer);
     tmrTime->setInterval(TickMilliseconds);
@@ -96,6 +130,7 @@ void frmMain::EnableTimer(bool enabled)
     } else {
         tmrTime->stop();
     }
+    pauseVeil->setVisible(!enabled);
 }
 
 /// A timer does not fire while its own slot is on the stack, and a tick may
@@ -119,11 +154,26 @@ void frmMain::QueueTick()
 void frmMain::ShowLabel(Label label)
 {
     const auto index = static_cast<std::size_t>(label);
-    labels[index]->ShowText(board.ShownText(label));
+    const bool wasDanger = labels[index]->Colour() == colour::Danger;
+    if (label == Label::lblMessage) {
+        messageLine->Type(board.ShownText(label));
+    } else {
+        labels[index]->ShowText(board.ShownText(label));
+    }
     labels[index]->SetColour(board.Colour(label));
+    if (board.IsDanger(label) && !wasDanger) {
+        AlertTo(label);
+    }
     if (gauges[index]) {
         ShowGauge(label);
     }
+}
+
+/// A screen reader speaks up when a statistic turns red.
+void frmMain::AlertTo(Label label)
+{
+    QAccessibleEvent alert(labels[static_cast<std::size_t>(label)], QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 void frmMain::ShowGauge(Label label)

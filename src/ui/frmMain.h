@@ -64,6 +64,7 @@ private:
 
     void ShowLabel(Label label);
     void ShowGauge(Label label);
+    void AlertTo(Label label);
     void QueueTick();
     bool HandleKey(const QKeyEvent& event);
 
@@ -72,6 +73,8 @@ private:
     QTimer* tmrTime;
     std::array<GameLabel*, LabelCount> labels{};
     std::array<Gauge*, LabelCount> gauges{};
+    TerminalLabel* messageLine = nullptr;
+    QWidget* pauseVeil;
     bool tickQueued = false;
     int timerRun = 0; ///< tells the ticks of a disabled timer from new ones
 };

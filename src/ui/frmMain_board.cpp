@@ -120,9 +120,13 @@ void frmMain::AddTile(const QString& caption, Label label, const QRectF& place, 
     const QRectF inside = place.adjusted(9, 0, -9, 0);
     AddCaption(caption, {inside.left(), place.top() + 2, inside.width(), 15}, 10.5);
     const bool bare = label == Label::lblFamily;
-    AddLabel(label, {inside.left(), place.top() + 15, inside.width(), bare ? 20.0 : 18.0},
-             TextFont(15, true))
-        ->SetSpokenCaption(caption);
+    GameLabel* value =
+        AddLabel(label, {inside.left(), place.top() + 15, inside.width(), bare ? 20.0 : 18.0},
+                 TextFont(15, true));
+    value->SetSpokenCaption(caption);
+    if (label == Label::lblMoney) {
+        value->FlashChanges();
+    }
     if (!bare) {
         auto* gauge = new Gauge(kind, scene);
         gauge->setGeometry(PxRect({inside.left(), place.top() + 34, inside.width(), 3}));
@@ -153,7 +157,9 @@ void frmMain::BuildStatistics()
 void frmMain::AddRow(const QString& caption, Label label, const QRectF& place)
 {
     AddCaption(caption, {place.left(), place.top(), CaptionWidth - 5, place.height()}, 10.5);
-    AddLabel(label, place.adjusted(CaptionWidth, 0, 0, 0), TextFont(11))->SetSpokenCaption(caption);
+    GameLabel* name = AddLabel(label, place.adjusted(CaptionWidth, 0, 0, 0), TextFont(11));
+    name->SetSpokenCaption(caption);
+    name->ShowOnHover();
 }
 
 void frmMain::BuildComputer()
@@ -190,11 +196,11 @@ void frmMain::BuildMessageLine()
 {
     const QRectF place(Left, MessageTop, Inner, MessageHeight);
     scene->AddPanel(place, Scene::Panel::Deep);
-    auto* message = new TerminalLabel(Text(LabelName(Label::lblMessage)), TerminalFont(11), scene);
-    message->setGeometry(PxRect(place.adjusted(9, 2, -8, -1)));
-    message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    message->setWordWrap(true);
-    labels[static_cast<std::size_t>(Label::lblMessage)] = message;
+    messageLine = new TerminalLabel(Text(LabelName(Label::lblMessage)), TerminalFont(11), scene);
+    messageLine->setGeometry(PxRect(place.adjusted(9, 2, -8, -1)));
+    messageLine->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    messageLine->setWordWrap(true);
+    labels[static_cast<std::size_t>(Label::lblMessage)] = messageLine;
 }
 
 void frmMain::BuildButtons()

@@ -87,6 +87,15 @@ TEST_F(Services, EachWindowRefusesInItsOwnWords)
                   "Идиот!: Шеф-Повор: А ну убирайся отсюда!!!!!!"}));
 }
 
+TEST_F(Services, TheDeepestDebtIsRefusedAndNoError)
+{
+    SetMoney(Int32(-2147483647) - 1);
+    BuyService(Hospital, 0);
+    ASSERT_EQ(player.boxes.size(), 1U);
+    EXPECT_EQ(player.boxes[0].icon, Icon::Information);
+    EXPECT_EQ(player.boxes[0].title, "Центральная клиническая больница");
+}
+
 TEST_F(Services, AnOverflowIsReportedOnceAndTheNextSetterRuns)
 {
     SetMoney(1000);

@@ -3,12 +3,14 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
 
 #include "core/basGame.h"
 #include "core/cheats.h"
 #include "core/entry.h"
 #include "core/errors.h"
 #include "core/programs.h"
+#include "network/network.h"
 #include "support/life.h"
 
 namespace torvenhall::test
@@ -38,6 +40,28 @@ TEST_F(Commands, GoingOnlineTakesAModemAndABrowserButNoSystem)
     GameState.HardComm = GameState.SoftBrowser = 1;
     GoOnline();
     EXPECT_TRUE(player.IsOpen(Window::frmNetwork));
+}
+
+TEST_F(Commands, ANetworkWindowThatOpensTellsTheTrueStatus)
+{
+    GameState.HardComm = GameState.SoftBrowser = 1;
+    EnterRules(DialInternet);
+    dice.values = {DrawOf(7, 10)};
+    player.duringWait.emplace_back([] { EnterRules(DialInternet); });
+    EnterRules(DownloadAntivirus);
+    EXPECT_EQ(Network().inetStatus, "Status: Connected") << "though it was hung up meanwhile";
+    GoOnline();
+    EXPECT_EQ(Network().inetStatus, "Status: Disconnected");
+}
+
+TEST_F(Commands, NothingThatAHandlerThrowsLeavesTheRules)
+{
+    EXPECT_NO_THROW(EnterRules([] { throw RuntimeError{error::Overflow, {}}; }));
+    EXPECT_NO_THROW(EnterRules([] { throw std::runtime_error("?"); }));
+    Trapped([] { throw std::bad_alloc(); });
+    EXPECT_TRUE(player.boxes.at(0).text.starts_with("Системная ошибка: Недостаточно памяти"));
+    Trapped([] { throw RuntimeError{error::DiskFull, "подробность"}; });
+    EXPECT_NE(player.boxes.at(1).text.find(": подробность. Программа"), std::string::npos);
 }
 
 TEST_F(Commands, ClosingAsksOnceAndNoEndsTheProgram)
@@ -140,7 +164,7 @@ TEST_F(Commands, CheatCodesCountCaseAndBlanks)
     }
     player.inputs.emplace_back();
     EnterRules(EnterCheat);
-    EXPECT_EQ(player.journal, std::vector<std::string>(5, "input Torvenhall 1.5"));
+    EXPECT_EQ(player.journal, std::vector<std::string>(5, "input Torvenhall 1.5: Введите чит:"));
 }
 
 TEST_F(Commands, ACheatThatOverflowsIsReportedAndChangesNothing)

@@ -3,6 +3,7 @@
 
 #include "activities/services.h"
 #include "core/basGame.h"
+#include "core/cheats.h"
 #include "core/clock.h"
 #include "core/commands.h"
 #include "core/entry.h"
@@ -11,6 +12,7 @@
 #include "core/outside.h"
 #include "events/basEvents.h"
 #include "events/message.h"
+#include "network/network.h"
 #include "support/life.h"
 
 namespace torvenhall::test
@@ -136,12 +138,63 @@ TEST_F(Lives, TheDeathBoxIsTheOnlyOneAndStopsTheClock)
     ExpectFreshLife("Новый");
 }
 
+TEST_F(Lives, ADeathByAClickStopsTheClockTooAndASecondOneIsSilent)
+{
+    player.Forget();
+    NextLifeIs("Новый");
+    player.whileBoxOpen.push_back([&] {
+        Tick(10);
+        EXPECT_EQ(TimeText(GameState.GameTime), "00:00");
+        SetHealth(-500);
+    });
+    EnterRules([] { SetHappy(-75); });
+    EXPECT_EQ(player.boxes.size(), 1U);
+    ExpectFreshLife("Новый");
+}
+
+TEST_F(Lives, NobodyDiesUnderTheWinnersBox)
+{
+    GameState.CurrWork = 12;
+    GameState.HardCPU = 59;
+    SetMoney(10001);
+    player.Forget();
+    NextLifeIs("Новый");
+    player.whileBoxOpen.push_back([&] {
+        SetHealth(-500);
+        Tick(10);
+    });
+    Tick();
+    EXPECT_EQ(player.BoxTexts(), std::vector<std::string>{"Наконец-то: Вы прошли всю игру"});
+    ExpectFreshLife("Новый");
+}
+
 TEST_F(Lives, TheClockOnlyShowsItselfWhileANewGameAsksForAName)
 {
     GameState.GameDate = std::chrono::year{2003} / 5 / 5;
     NextLifeIs("Новый");
-    player.whileDialogOpen.push_back([&] { Tick(200); });
+    player.whileDialogOpen.push_back([&] {
+        Tick(200);
+        EXPECT_EQ(LabelShown(Label::lblTime), "5 мая 2003 г. - 00:00") << "shown, not advanced";
+        EXPECT_NO_THROW(SetHealth(-500)) << "nobody lives who could die";
+    });
     EnterRules(NewGame);
+    EXPECT_TRUE(player.boxes.empty());
+    ExpectFreshLife("Новый");
+}
+
+TEST_F(Lives, ACodeTypedForADeadPersonDoesNotHelpTheNextOne)
+{
+    SetHealth(-49);
+    player.Forget();
+    NextLifeIs("Новый");
+    player.inputs.emplace_back("QUOKKAFOX");
+    player.whileDialogOpen.push_back([&] {
+        JustBeforeMidnight();
+        Tick();
+    });
+    // The box that is open belongs to the old life, the dialog to the new one.
+    player.whileDialogOpen.emplace_back();
+    EnterRules(EnterCheat);
     ExpectFreshLife("Новый");
 }
 
@@ -176,12 +229,14 @@ TEST_F(Lives, TimeGoesOnDuringAMessageButNoSecondDayBegins)
     GameState.WifeFound = GameState.Married = True;
     SetMoney(1000);
     SetEatLevel(75);
+    EnterRules(DialInternet);
     dice.values = {DrawOf(29, 50)};
     player.duringWait.push_back([&] {
         Tick(3);
         EXPECT_EQ(TimeText(GameState.GameTime), "01:30");
         Tick(200);
         EXPECT_EQ(TimeText(GameState.GameTime), "23:30") << "the tick to midnight is dropped whole";
+        EXPECT_EQ(Network().TrafficHours, 24) << "it bills no hour either";
         EXPECT_EQ(DateText(GameState.GameDate), "14.06.2001");
     });
     Tick();

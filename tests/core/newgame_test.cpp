@@ -3,6 +3,7 @@
 #include "core/basGame.h"
 #include "core/entry.h"
 #include "core/life.h"
+#include "core/outside.h"
 #include "equipment/basEquipment.h"
 #include "support/life.h"
 
@@ -140,10 +141,40 @@ TEST_F(NewLife, WindowsAreClosedWhileRestartingIsSet)
 {
     Begin();
     player.open.insert(Window::frmHard);
-    EXPECT_EQ(GameState.Restarting, False);
+    player.sawRestarting = false;
     Begin();
     EXPECT_TRUE(player.open.empty());
+    EXPECT_TRUE(player.sawRestarting);
     EXPECT_EQ(GameState.Restarting, False);
+}
+
+TEST_F(NewLife, TheTitleIsThereBeforeTheWindow)
+{
+    player.names.push_back(NewPlayer{"Иван", 1});
+    EnterRules(NewGame);
+    ASSERT_GE(player.journal.size(), 2U);
+    EXPECT_EQ(player.journal[player.journal.size() - 2], "title Marshend Torvenhall 1.5 - Иван");
+}
+
+TEST_F(NewLife, EverySoftwareSlotIsEmptied)
+{
+    Begin();
+    for (int category = 0; category < 6; ++category) {
+        SoftwareField(category) = 2;
+    }
+    Begin();
+    for (int category = 0; category < 6; ++category) {
+        EXPECT_EQ(SoftwareField(category), 0) << category;
+    }
+}
+
+TEST_F(NewLife, AnImpossibleFamilyOfTheOldLifeLeavesNothingInTheLabel)
+{
+    Begin();
+    ShowLabel(Label::lblFamily, "PRST:2:1");
+    Begin();
+    EXPECT_EQ(LabelText(Label::lblFamily), "NO WIFE");
+    EXPECT_EQ(LabelText(Label::lblMessage), "");
 }
 
 } // namespace

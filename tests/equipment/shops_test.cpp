@@ -26,6 +26,7 @@ TEST_F(Shops, ExactlyThePriceBuysAndOneDollarLessIsRefused)
     ASSERT_EQ(player.BoxTexts(),
               std::vector<std::string>{"Я тоже много хочу!!!: У вас недостаточно денег на покупку "
                                        "486 DX2-66 MHz за $25"});
+    EXPECT_EQ(player.boxes[0].icon, Icon::Information);
     EXPECT_EQ(GameState.HardCPU, 0);
     EXPECT_EQ(GameState.Money, 24);
 

@@ -6,12 +6,15 @@
 #include "events/basEvents.h"
 #include "support/life.h"
 
-namespace torvenhall::test {
-namespace {
+namespace torvenhall::test
+{
+namespace
+{
 
 using Journal = std::vector<std::string>;
 
-class Days : public Life {
+class Days : public Life
+{
 protected:
     Days() { Begin(); }
 
@@ -159,15 +162,16 @@ TEST_F(Days, TheWalletTakesTheRootOfTheHundredthItNames)
     struct {
         int money, left;
         const char* named;
-    } const cases[]{{1000, 997, "10"}, {50, 50, "0"}, {49, 49, "0"},   {150, 149, "2"},
-                    {10000, 9990, "100"}, {-50, -50, "0"}};
+    } const cases[]{{1000, 997, "10"}, {50, 50, "0"},        {49, 49, "0"},
+                    {150, 149, "2"},   {10000, 9990, "100"}, {-50, -50, "0"}};
     for (const auto& row : cases) {
         Prepare(1, true, 0);
         SetMoney(row.money);
         RunDay(15);
-        EXPECT_EQ(player.messages.at(0), std::string("Сообщение от твоей жены: Ты напился, милый, у "
-                                                     "тебя украли кошелёк с ") +
-                                             row.named + " баксами!!!");
+        EXPECT_EQ(player.messages.at(0),
+                  std::string("Сообщение от твоей жены: Ты напился, милый, у "
+                              "тебя украли кошелёк с ") +
+                      row.named + " баксами!!!");
         EXPECT_EQ(GameState.Money, row.left + 7);
     }
 }
@@ -197,7 +201,8 @@ TEST_F(Days, MilkRemovesTheDrawnPartAndRefreshesTheOpenShop)
         player.Forget();
         dice.values = {DrawOf(35, 50), DrawOf(part, 8), 0.5F, 0.5F, DrawOf(1, 25)};
         DailyEvents();
-        EXPECT_TRUE(player.messages.at(0).ends_with(std::string("посыпались с ") + names[part] + "!!!"));
+        EXPECT_TRUE(
+            player.messages.at(0).ends_with(std::string("посыпались с ") + names[part] + "!!!"));
         EXPECT_EQ(HardwareField(part), 0);
         EXPECT_EQ(player.journal.at(2), "reload frmHard");
     }
@@ -240,10 +245,38 @@ TEST_F(Days, TheYearsTaxesFollowTheLevelAndTheMessageStands)
         EXPECT_EQ(LabelShown(Label::lblMessage),
                   "Сообщение от Налогового Инспектора: Пора платить налоги!!! Вы заплатили " +
                       std::to_string(row.tax) + " долларов");
-        EXPECT_EQ(player.journal,
-                  (Journal{"message", "lblHappy=" + std::to_string(row.mood) + "%",
-                           "lblMoney=$" + std::to_string(row.left)}));
+        EXPECT_EQ(player.journal, (Journal{"message", "lblHappy=" + std::to_string(row.mood) + "%",
+                                           "lblMoney=$" + std::to_string(row.left)}));
     }
+}
+
+TEST_F(Days, TaxesThatOverflowTellNobody)
+{
+    Prepare(0, false, 0);
+    SetHappy(-60);
+    GameState.Happy = -32768;
+    player.Forget();
+    EXPECT_NO_THROW(PayTaxes());
+    EXPECT_TRUE(player.boxes.empty());
+    EXPECT_EQ(GameState.Money, 1000);
+}
+
+TEST_F(Days, TheDayReseedsFromTheSystemTimerAndTheLifeTableFromItsDraws)
+{
+    Prepare(1, false, 0);
+    dice.reseeds.clear();
+    RunDay(1);
+    EXPECT_EQ(dice.reseeds, (std::vector<std::optional<double>>{std::nullopt, 0.25}));
+}
+
+TEST_F(Days, AMessageClearsTheLineBeforeItsFirstCharacter)
+{
+    Prepare(1, true, 0);
+    PayTaxes(); // leaves its message standing
+    player.duringWait.emplace_back(
+        [&] { EXPECT_EQ(LabelShown(Label::lblMessage), "") << "0.1 s before the first one"; });
+    RunDay(29);
+    EXPECT_TRUE(player.duringWait.empty());
 }
 
 TEST_F(Days, AnOverflowingWageSkipsTheWearAndNobodyIsTold)
@@ -256,5 +289,5 @@ TEST_F(Days, AnOverflowingWageSkipsTheWearAndNobodyIsTold)
     EXPECT_TRUE(player.journal.empty());
 }
 
-}  // namespace
-}  // namespace torvenhall::test
+} // namespace
+} // namespace torvenhall::test

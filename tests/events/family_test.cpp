@@ -3,22 +3,27 @@
 #include "core/entry.h"
 #include "support/life.h"
 
-namespace torvenhall::test {
-namespace {
+namespace torvenhall::test
+{
+namespace
+{
 
 using Texts = std::vector<std::string>;
 
-class Family : public Life {
+class Family : public Life
+{
 protected:
     Family() { Begin(); }
 };
 
 TEST_F(Family, AWeddingShowsItsStopIconAndTheWife)
 {
+    player.whileBoxOpen.emplace_back([] { EXPECT_EQ(GameState.Married, False); });
     Marry();
-    EXPECT_EQ(player.BoxTexts(),
-              Texts{"Жениться или не жениться... Поздно!!!: Поздравляю! Вчера ты нашел свою жену! А "
-                    "сегодня ты женился! Поздравляем!!!!!"});
+    EXPECT_EQ(
+        player.BoxTexts(),
+        Texts{"Жениться или не жениться... Поздно!!!: Поздравляю! Вчера ты нашел свою жену! А "
+              "сегодня ты женился! Поздравляем!!!!!"});
     EXPECT_EQ(player.boxes[0].icon, Icon::Critical);
     EXPECT_EQ(GameState.WifeFound, -1);
     EXPECT_EQ(GameState.Married, -1);
@@ -28,8 +33,13 @@ TEST_F(Family, AWeddingShowsItsStopIconAndTheWife)
 TEST_F(Family, TheMiddleOfThreeDrawsIsASon)
 {
     GameState.WifeFound = GameState.Married = True;
-    for (const auto& [value, son] : {std::pair{0.0F, false}, {0.25F, false}, {0.26F, true},
-                                     {0.5F, true}, {0.74F, true}, {0.75F, false}, {0.99F, false}}) {
+    for (const auto& [value, son] : {std::pair{0.0F, false},
+                                     {0.25F, false},
+                                     {0.26F, true},
+                                     {0.5F, true},
+                                     {0.74F, true},
+                                     {0.75F, false},
+                                     {0.99F, false}}) {
         GameState.Sons = GameState.Daughters = 0;
         player.Forget();
         dice.values = {0.5F, value};
@@ -77,6 +87,21 @@ TEST_F(Family, AnImpossibleMarriageAddsToWhatTheLabelShows)
     EXPECT_EQ(LabelShown(Label::lblFamily), "NO WIFE:0:0:0:0");
 }
 
+TEST_F(Family, ABirthIsToldWithTheInformationSignBeforeItCounts)
+{
+    GameState.WifeFound = GameState.Married = True;
+    player.whileBoxOpen.emplace_back([] { EXPECT_EQ(GameState.Sons, 0); });
+    dice.values = {0.5F, 0.5F};
+    ChildBirth();
+    EXPECT_EQ(player.boxes.at(0).icon, Icon::Information);
+    EXPECT_EQ(GameState.Sons, 1);
+
+    GameState.Sons = 32767;
+    dice.values = {0.5F, 0.5F};
+    ChildBirth();
+    EXPECT_TRUE(player.boxes.back().text.starts_with("Возникла непредвиденная ошибка № 6"));
+}
+
 TEST_F(Family, AbsurdChildCountsAreReported)
 {
     GameState.Sons = 700;
@@ -85,5 +110,5 @@ TEST_F(Family, AbsurdChildCountsAreReported)
     EXPECT_TRUE(player.boxes[0].text.starts_with("Возникла непредвиденная ошибка № 6"));
 }
 
-}  // namespace
-}  // namespace torvenhall::test
+} // namespace
+} // namespace torvenhall::test

@@ -6,12 +6,15 @@
 #include "events/basEvents.h"
 #include "support/life.h"
 
-namespace torvenhall::test {
-namespace {
+namespace torvenhall::test
+{
+namespace
+{
 
 using Journal = std::vector<std::string>;
 
-class LifeTable : public Life {
+class LifeTable : public Life
+{
 protected:
     LifeTable() { Begin(); }
 
@@ -107,7 +110,8 @@ TEST_F(LifeTable, BurglaryRoundsItsMessageAndItsChargeSeparately)
     struct {
         int level, money, left;
         const char* named;
-    } const cases[]{{0, 10, 8, "2"}, {0, 6, 4, "2"}, {1, 5, 4, "0"}, {2, 75, 74, "2"}, {2, -10, -10, "0"}};
+    } const cases[]{
+        {0, 10, 8, "2"}, {0, 6, 4, "2"}, {1, 5, 4, "0"}, {2, 75, 74, "2"}, {2, -10, -10, "0"}};
     for (const auto& row : cases) {
         Prepare(row.level);
         SetMoney(row.money);
@@ -119,6 +123,47 @@ TEST_F(LifeTable, BurglaryRoundsItsMessageAndItsChargeSeparately)
                       row.named + " долларов.");
         EXPECT_EQ(GameState.Money, row.left);
     }
+}
+
+TEST_F(LifeTable, ABurglaryKeepsTheLevelItBeganOn)
+{
+    Prepare(0);
+    player.duringWait.emplace_back([] {
+        Int16 easy = 2;
+        SetGameLevel(easy);
+    });
+    Roll(6);
+    EXPECT_EQ(GameState.Money, 758);
+    EXPECT_EQ(GameState.Happy, 450);
+}
+
+TEST_F(LifeTable, ADivorcedPersonNeverMarriesAgain)
+{
+    Prepare(1);
+    GameState.WifeFound = True;
+    Roll(24);
+    GameState.Married = 1; // neither True nor False, from an edited file
+    Roll(24);
+    EXPECT_TRUE(player.journal.empty());
+}
+
+TEST_F(LifeTable, AttendanceThatIsNotTrueCostsNothing)
+{
+    Prepare(1);
+    GameState.AttendCourses = GameState.AttendSchool = 1;
+    Roll(1, True);
+    EXPECT_EQ(GameState.Money, 1010);
+}
+
+TEST_F(LifeTable, CoursesComeBeforeSchoolAtAMonthsEnd)
+{
+    Prepare(1);
+    GameState.AttendCourses = GameState.AttendSchool = True;
+    Roll(1, True);
+    const Journal expected{"lblHappy=495%", "lblEat=495%",   "lblHealth=495%",
+                           "lblHappy=495%", "lblMoney=$935", "lblStatus=USER",
+                           "box Доцент",    "lblMoney=$885", "lblEducation=30%"};
+    EXPECT_EQ(player.journal, expected);
 }
 
 TEST_F(LifeTable, TheSurgeonsMessageStandsAsWritten)
@@ -134,8 +179,8 @@ TEST_F(LifeTable, ABirthNeedsAMarriageAndFewerThanThreeChildren)
     struct {
         int found, married, sons, daughters;
         bool born;
-    } const cases[]{{-1, -1, 0, 0, true},  {-1, -1, 1, 1, true},  {-1, -1, 2, 1, false},
-                    {-1, 0, 0, 0, false},  {0, 0, 0, 0, false},   {1, -1, 0, 0, false}};
+    } const cases[]{{-1, -1, 0, 0, true}, {-1, -1, 1, 1, true}, {-1, -1, 2, 1, false},
+                    {-1, 0, 0, 0, false}, {0, 0, 0, 0, false},  {1, -1, 0, 0, false}};
     for (const auto& row : cases) {
         Prepare(1);
         GameState.WifeFound = row.found;
@@ -143,7 +188,8 @@ TEST_F(LifeTable, ABirthNeedsAMarriageAndFewerThanThreeChildren)
         GameState.Sons = row.sons;
         GameState.Daughters = row.daughters;
         Roll(8);
-        EXPECT_EQ(GameState.Sons + GameState.Daughters, row.sons + row.daughters + (row.born ? 1 : 0));
+        EXPECT_EQ(GameState.Sons + GameState.Daughters,
+                  row.sons + row.daughters + (row.born ? 1 : 0));
     }
 }
 
@@ -216,5 +262,5 @@ TEST_F(LifeTable, AnOverflowIsReportedAndEndsTheMonth)
     EXPECT_TRUE(player.boxes[0].text.starts_with("Возникла непредвиденная ошибка № 6 : "));
 }
 
-}  // namespace
-}  // namespace torvenhall::test
+} // namespace
+} // namespace torvenhall::test

@@ -9,9 +9,11 @@
 #include "network/network.h"
 #include "system/basSystem.h"
 
-namespace torvenhall::test {
+namespace torvenhall::test
+{
 
-namespace {
+namespace
+{
 
 std::string MakeOwnFolder()
 {
@@ -22,7 +24,7 @@ std::string MakeOwnFolder()
     return AddBackslash(pattern);
 }
 
-}  // namespace
+} // namespace
 
 Life::Life() : ownFolder(MakeOwnFolder())
 {
@@ -75,4 +77,4 @@ std::string Life::LabelShown(Label label) const
     return found == player.labels.end() ? "" : found->second;
 }
 
-}  // namespace torvenhall::test
+} // namespace torvenhall::test

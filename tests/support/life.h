@@ -7,11 +7,13 @@
 #include "core/GameState.h"
 #include "support/scripted.h"
 
-namespace torvenhall::test {
+namespace torvenhall::test
+{
 
 /// A test that plays: the scripted player, dice and clock connected to rules
 /// that have just started, files in a folder of the test's own.
-class Life : public ::testing::Test {
+class Life : public ::testing::Test
+{
 protected:
     Life();
     ~Life() override;
@@ -39,4 +41,4 @@ private:
     std::string ownFolder;
 };
 
-}  // namespace torvenhall::test
+} // namespace torvenhall::test

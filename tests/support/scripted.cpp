@@ -2,9 +2,13 @@
 
 #include <gtest/gtest.h>
 
-namespace torvenhall::test {
+#include "core/GameState.h"
 
-namespace {
+namespace torvenhall::test
+{
+
+namespace
+{
 
 void RunNext(std::deque<std::function<void()>>& queue)
 {
@@ -19,7 +23,8 @@ void RunNext(std::deque<std::function<void()>>& queue)
 }
 
 template <class Value>
-std::optional<Value> NextAnswer(std::deque<std::optional<Value>>& queue, const std::string& question)
+std::optional<Value> NextAnswer(std::deque<std::optional<Value>>& queue,
+                                const std::string& question)
 {
     if (queue.empty()) {
         ADD_FAILURE() << "unexpected question: " << question;
@@ -30,7 +35,7 @@ std::optional<Value> NextAnswer(std::deque<std::optional<Value>>& queue, const s
     return answer;
 }
 
-}  // namespace
+} // namespace
 
 std::vector<std::string> ScriptedFrontEnd::BoxTexts() const
 {
@@ -88,9 +93,10 @@ Answer ScriptedFrontEnd::ShowMessageBox(const MessageBox& box)
     return answer;
 }
 
-std::optional<std::string> ScriptedFrontEnd::AskText(std::string_view prompt, std::string_view caption)
+std::optional<std::string> ScriptedFrontEnd::AskText(std::string_view prompt,
+                                                     std::string_view caption)
 {
-    journal.push_back("input " + std::string(caption));
+    journal.push_back("input " + std::string(caption) + ": " + std::string(prompt));
     RunNext(whileDialogOpen);
     return NextAnswer(inputs, std::string(prompt));
 }
@@ -137,17 +143,19 @@ void ScriptedFrontEnd::ReloadWindow(Window window)
 void ScriptedFrontEnd::DisableButton(Window window, std::string_view control)
 {
     if (IsOpen(window)) {
-        journal.push_back("disable " + std::string(WindowName(window)) + "." + std::string(control));
+        journal.push_back("disable " + std::string(WindowName(window)) + "." +
+                          std::string(control));
     }
 }
 
 void ScriptedFrontEnd::CloseAllWindows()
 {
     journal.emplace_back("close all");
+    sawRestarting = GameState.Restarting == True;
     open.clear();
     labels.clear();
     mainWindowShown = false;
-    timerEnabled = true;  // a newly made main window's timer runs
+    timerEnabled = true; // a newly made main window's timer runs
 }
 
 void ScriptedFrontEnd::ShowMainWindow()
@@ -159,6 +167,7 @@ void ScriptedFrontEnd::ShowMainWindow()
 void ScriptedFrontEnd::SetMainTitle(std::string_view text)
 {
     title = text;
+    journal.push_back("title " + title);
 }
 
 void ScriptedFrontEnd::EnableTimer(bool enabled)
@@ -211,4 +220,4 @@ float ScriptedDice::Rnd()
     return value;
 }
 
-}  // namespace torvenhall::test
+} // namespace torvenhall::test

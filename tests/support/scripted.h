@@ -10,23 +10,26 @@
 
 #include "core/port.h"
 
-namespace torvenhall::test {
+namespace torvenhall::test
+{
 
 /// A player without a screen: records what the rules show, answers from its
 /// queues and fails the test on a question that nobody expected. Boxes with a
 /// single button are closed at once.
-class ScriptedFrontEnd : public FrontEnd {
+class ScriptedFrontEnd : public FrontEnd
+{
 public:
     // What was shown, in order.
-    std::vector<std::string> journal;  ///< "lblMoney=$15", "box Внимание", "open frmHard", ...
+    std::vector<std::string> journal; ///< "lblMoney=$15", "box Внимание", "open frmHard", ...
     std::vector<MessageBox> boxes;
     std::map<Label, std::string> labels;
     std::map<Label, TextColour> colours;
-    std::vector<std::string> messages;  ///< what the message line said, whole
+    bool sawRestarting = false;        ///< all windows were closed while Restarting was True
+    std::vector<std::string> messages; ///< what the message line said, whole
     std::set<Window> open;
     std::vector<GameNameQuestion> gameQuestions;
     std::vector<NewPlayer> nameQuestions;
-    std::vector<std::string> started;  ///< programs with their arguments
+    std::vector<std::string> started; ///< programs with their arguments
     std::string title;
     bool timerEnabled = false;
     bool mainWindowShown = false;
@@ -72,7 +75,8 @@ public:
     double seconds = 0;
 };
 
-class ScriptedClock : public WallClock {
+class ScriptedClock : public WallClock
+{
 public:
     explicit ScriptedClock(const ScriptedFrontEnd& player) : frontEnd(player) {}
     double Seconds() const override { return frontEnd.seconds; }
@@ -83,11 +87,12 @@ private:
 
 /// Dice that show the queued values; an empty queue gives `otherwise`, or
 /// fails the test if that is not set.
-class ScriptedDice : public Dice {
+class ScriptedDice : public Dice
+{
 public:
     std::deque<float> values;
     std::optional<float> otherwise;
-    std::vector<std::optional<double>> reseeds;  ///< nothing: from the system timer
+    std::vector<std::optional<double>> reseeds; ///< nothing: from the system timer
 
     float Rnd() override;
     void Randomize(double value) override { reseeds.emplace_back(value); }
@@ -100,4 +105,4 @@ constexpr float DrawOf(int wanted, int sides)
     return static_cast<float>(wanted) / static_cast<float>(sides);
 }
 
-}  // namespace torvenhall::test
+} // namespace torvenhall::test

@@ -101,6 +101,9 @@ void ActivityWindow::AddStripItem(int index, const QString& caption, Label label
     AddLabel({}, caption, {left, top + 1, item - 8, 14}, TextFont(9.5))->SetColour(colour::Caption);
     GameLabel* value = AddLabel({}, {}, {left, top + 13, item - 8, 15}, TextFont(12.5, true));
     value->SetSpokenCaption(caption);
+    if (label == Label::lblMoney) {
+        value->FlashChanges();
+    }
     strip.emplace_back(label, value);
     ShowStripItem(label);
 }

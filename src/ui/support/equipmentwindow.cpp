@@ -40,7 +40,7 @@ void EquipmentShop::Load()
 void EquipmentShop::RefreshChoices()
 {
     for (std::size_t i = 0; i < prices.size(); ++i) {
-        Choice(i).SetMuted(GameState.Money < Int32(prices[i]));
+        Choice(i).SetMuted(prices[i] > 0 && GameState.Money < Int32(prices[i]));
     }
 }
 

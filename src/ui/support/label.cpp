@@ -1,7 +1,9 @@
 #include "ui/support/label.h"
 
 #include <QPainter>
+#include <QTextDocument>
 #include <QTextLayout>
+#include <QTimer>
 
 #include "ui/support/fittext.h"
 #include "ui/support/metrics.h"
@@ -14,6 +16,8 @@ namespace
 {
 
 constexpr double SmallestUnits = 7.5;
+constexpr int FlashMilliseconds = 250;
+constexpr int PastMessages = 10;
 
 /// Breaks the text into lines of a width; their common height.
 double LayOut(QTextLayout& layout, double width)
@@ -55,10 +59,30 @@ void GameLabel::SetColour(const QColor& newColour)
 void GameLabel::ShowText(const QString& newText)
 {
     if (text() != newText) {
+        const bool isChange = !text().isEmpty();
         setText(newText);
-        setToolTip(TextFits() ? QString() : newText);
+        setToolTip(TextFits() && !hovers ? QString() : newText);
         SetSpokenCaption(spokenCaption);
+        if (flashes && isChange) {
+            Flash();
+        }
     }
+}
+
+void GameLabel::ShowOnHover()
+{
+    hovers = true;
+    setToolTip(text());
+}
+
+void GameLabel::Flash()
+{
+    lit = true;
+    update();
+    QTimer::singleShot(FlashMilliseconds, this, [this] {
+        lit = false;
+        update();
+    });
 }
 
 void GameLabel::SetSpokenCaption(const QString& caption)
@@ -98,6 +122,9 @@ QFont GameLabel::WrappedFont(bool* fits) const
 void GameLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    if (lit) {
+        painter.fillRect(rect(), QColor(192, 255, 255, 48));
+    }
     painter.setPen(colour);
     painter.setFont(font());
     if (!wordWrap()) {
@@ -111,6 +138,30 @@ void GameLabel::paintEvent(QPaintEvent*)
         origin.ry() += (contentsRect().height() - height) / 2;
     }
     layout.draw(&painter, origin);
+}
+
+void TerminalLabel::Type(const QString& newText)
+{
+    if (!newText.isEmpty()) {
+        const bool goesOn = !text().isEmpty() && newText.startsWith(text());
+        if (goesOn) {
+            messages.removeLast();
+        }
+        messages.append(newText);
+        if (messages.size() > PastMessages) {
+            messages.removeFirst();
+        }
+    }
+    ShowText(newText);
+    ShowPastMessages();
+}
+
+void TerminalLabel::ShowPastMessages()
+{
+    const QString past = messages.join('\n');
+    // As rich text a tooltip breaks its long lines.
+    setToolTip(past.isEmpty() ? QString() : Qt::convertFromPlainText(past));
+    setAccessibleDescription(past);
 }
 
 void TerminalLabel::paintEvent(QPaintEvent* event)

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QLabel>
+#include <QStringList>
 
 namespace torvenhall
 {
@@ -22,6 +23,10 @@ public:
     void SetSpokenCaption(const QString& caption);
     /// Whether the whole text is on screen.
     bool TextFits() const;
+    /// Hovering always shows the whole text, not only when it is cut.
+    void ShowOnHover();
+    /// A new text is lit up for a moment.
+    void FlashChanges() { flashes = true; }
 
     QSize minimumSizeHint() const override { return {}; }
 
@@ -32,18 +37,33 @@ protected:
     QFont WrappedFont(bool* fits = nullptr) const;
 
 private:
+    void Flash();
+
     QColor colour;
     QString spokenCaption;
+    bool hovers = false;
+    bool flashes = false;
+    bool lit = false;
 };
 
-/// The message line: a terminal with a block cursor behind what is typed.
+/// The message line: a terminal with a block cursor behind what is typed. Its
+/// last messages can be read in its tooltip and accessible description.
 class TerminalLabel : public GameLabel
 {
 public:
     using GameLabel::GameLabel;
 
+    /// Shows a text; one that does not go on with the last one is another
+    /// message.
+    void Type(const QString& newText);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void ShowPastMessages();
+
+    QStringList messages;
 };
 
 } // namespace torvenhall
