@@ -149,7 +149,9 @@ void DownloadFromSite(bool enablesSoftware)
         network.downloadEnabled = false;
         SayAndWait(Internet, "Status: Downloading " + Decimal(size) + " Mb...", size.value());
         SetSoftSize(GameState.SoftSize + size);
-        network.downloadEnabled = enablesSoftware;
+        if (enablesSoftware) {
+            network.downloadEnabled = true;
+        }
         Say(Internet, Connected);
     });
 }

@@ -83,7 +83,9 @@ constexpr Row Value{
 template <auto Field>
 constexpr Row Boolean{
     [](const GameStateRecord& game) { return Text(AsBoolean(game.*Field)); },
-    [](GameStateRecord& game, std::string_view text) { game.*Field = AsBoolean(ReadInt16(text)); },
+    [](GameStateRecord& game, std::string_view text) {
+        game.*Field = ReadInt32(text) == 0 ? False : True;
+    },
 };
 
 /// Written as a Boolean, but keeps any number that it reads.

@@ -64,9 +64,4 @@ std::string FromWindows1251(std::string_view bytes)
     return utf8;
 }
 
-bool FitsWindows1251(std::string_view utf8)
-{
-    return FromWindows1251(ToWindows1251(utf8)) == utf8;
-}
-
 } // namespace torvenhall

@@ -13,7 +13,4 @@ std::string ToWindows1251(std::string_view utf8);
 /// unassigned byte, 0x98, is U+0098).
 std::string FromWindows1251(std::string_view bytes);
 
-/// Whether the text survives ToWindows1251 and back.
-bool FitsWindows1251(std::string_view utf8);
-
 } // namespace torvenhall

@@ -112,6 +112,7 @@ void MakeDirectory(const std::string& path)
     if (!IsDirectory(path)) {
         throw RuntimeError{error::PathFileAccess, {}};
     }
+    FlushDirectory(NativePath(path).parent_path());
 }
 
 void ChangeDirectory(const std::string& path)

@@ -24,6 +24,9 @@ enum class Sought : unsigned char { File, Folder };
 /// Whether the path opens for reading as a file.
 bool OpensForReading(const std::string& path);
 
+/// Makes a folder's new entries outlast a power cut, where the platform can.
+void FlushDirectory(const std::filesystem::path& directory);
+
 /// Whether the platform takes a file of this name, which is UTF-8, not empty
 /// and without separators.
 bool PlatformTakesFileName(std::string_view name);

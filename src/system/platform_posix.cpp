@@ -194,6 +194,14 @@ void ReplaceFile(const std::string& path, std::string_view bytes)
     RaiseUnless(FlushFolder(folder.Number()), path);
 }
 
+void FlushDirectory(const std::filesystem::path& directory)
+{
+    Descriptor folder(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.IsOpen()) {
+        static_cast<void>(FlushFolder(folder.Number()));
+    }
+}
+
 void OverwriteFile(const std::string& path, std::string_view bytes)
 {
     Descriptor file(

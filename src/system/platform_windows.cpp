@@ -204,6 +204,11 @@ void ReplaceFile(const std::string& path, std::string_view bytes)
     RaiseUnless(temporary.MoveOver(Wide(path)), path);
 }
 
+void FlushDirectory(const std::filesystem::path&)
+{
+    // The file system orders its own folders.
+}
+
 void OverwriteFile(const std::string& path, std::string_view bytes)
 {
     Handle file(::CreateFileW(Wide(path).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,

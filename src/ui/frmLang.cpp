@@ -4,7 +4,6 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 
-#include "core/errors.h"
 #include "resources/basLangMGR.h"
 #include "ui/support/metrics.h"
 #include "ui/support/text.h"
@@ -38,12 +37,11 @@ frmLang::frmLang(QWidget* parent)
 
 void frmLang::ShowLanguage(int row)
 {
+    // A row without a file has been reported; its texts are then not shown.
     Act([this, row] {
-        Trapped([&] {
-            SelectLanguage(row + 1);
-            info->setPlainText("Description: " + Text(LangDescription) +
-                               "\r\nCopyright: " + Text(LangCopyright));
-        });
+        SelectLanguage(row + 1);
+        info->setPlainText("Description: " + Text(LangDescription) +
+                           "\r\nCopyright: " + Text(LangCopyright));
     });
 }
 

@@ -55,7 +55,11 @@ void frmLocGame::AddEntries(const GameNameQuestion& question)
             pick(item);
         }
     });
-    connect(list, &QListWidget::itemActivated, this, &QDialog::accept);
+    // Enter takes the row that the focus stands on, picked or not.
+    connect(list, &QListWidget::itemActivated, this, [this, pick](const QListWidgetItem* item) {
+        pick(item);
+        accept();
+    });
     connect(name, &QLineEdit::returnPressed, this, &QDialog::accept);
 }
 

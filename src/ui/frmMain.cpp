@@ -166,6 +166,8 @@ void frmMain::ShowLabel(Label label)
     }
     if (gauges[index]) {
         ShowGauge(label);
+    } else if (label == Label::lblGameLevel) {
+        ShowGauge(Label::lblMoney); // the level sets the sum that fills it
     }
 }
 

@@ -158,7 +158,7 @@ void frmMain::AddRow(const QString& caption, Label label, const QRectF& place)
 {
     AddCaption(caption, {place.left(), place.top(), CaptionWidth - 5, place.height()}, 10.5);
     GameLabel* name = AddLabel(label, place.adjusted(CaptionWidth, 0, 0, 0), TextFont(11));
-    name->SetSpokenCaption(caption);
+    name->SetSpokenCaption(QString(caption).remove(':'));
     name->ShowOnHover();
 }
 

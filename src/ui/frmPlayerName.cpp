@@ -1,5 +1,6 @@
 #include "ui/frmPlayerName.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QEvent>
 #include <QLineEdit>
@@ -31,6 +32,9 @@ frmPlayerName::frmPlayerName(const NewPlayer& shown, QWidget* parent)
     level = new QComboBox(&Surface());
     level->setObjectName("Combo1");
     level->setAccessibleName("Уровень сложности");
+    // A combo box is named by its value on some platforms.
+    level->setAccessibleDescription("Уровень сложности");
+    level->view()->setAccessibleName("Уровень сложности");
     level->addItems({"Сложный", "Нормальный", "Простой"});
     level->setCurrentIndex(shown.level);
     level->setGeometry(PxRect({322, 188, 148, 28}));

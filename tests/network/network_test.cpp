@@ -176,6 +176,44 @@ TEST_F(Lines, TheSoftwareSiteGivesOnceUntilTheAntivirusSiteGives)
     EXPECT_EQ(GameState.SoftAntivirus, 0);
 }
 
+TEST_F(Lines, AnAntivirusDownloadInsideTheSoftwaresOneLeavesTheButtonWorking)
+{
+    DialInternet();
+    dice.values = {DrawOf(5, 10), DrawOf(3, 10)};
+    player.duringWait.emplace_back([] { EnterRules(DownloadAntivirus); });
+    DownloadSoftware();
+    EXPECT_TRUE(Network().downloadEnabled);
+    EXPECT_EQ(GameState.SoftSize, 8);
+}
+
+TEST_F(Lines, BothLinesDialledTogetherComeUp)
+{
+    player.duringWait.emplace_back([] { EnterRules(DialBoard); });
+    DialInternet();
+    EXPECT_EQ(Network().InetConnected, True);
+    EXPECT_EQ(Network().BbsConnected, True);
+}
+
+TEST_F(Lines, AnHourThatPassesWhileHangingUpIsBilled)
+{
+    DialInternet();
+    player.duringWait.emplace_back(NetworkHourTick);
+    DialInternet();
+    EXPECT_EQ(GameState.Money, 14);
+}
+
+TEST_F(Lines, ATransfersSizeIsRoundedHalfToEven)
+{
+    DialBoard();
+    const std::pair<float, const char*> draws[]{{0.25F, "2048"}, {0.75F, "8192"}};
+    for (const auto& [draw, amount] : draws) {
+        dice.values = {draw};
+        WatchPauses(1);
+        SendToBoard();
+        EXPECT_NE(pauses.at(0).find(amount), std::string::npos) << pauses.at(0);
+    }
+}
+
 TEST_F(Lines, HangingUpInsideADownloadIsToldByTheWindowThatOpensNext)
 {
     DialInternet();

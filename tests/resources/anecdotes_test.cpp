@@ -3,12 +3,14 @@
 #include <array>
 #include <filesystem>
 #include <map>
+#include <set>
 
 #include "core/errors.h"
 #include "core/random.h"
 #include "support/life.h"
 #include "system/basSystem.h"
 #include "system/codepage.h"
+#include "system/text.h"
 
 namespace torvenhall::test
 {
@@ -110,6 +112,22 @@ TEST_F(Anecdotes, AnEmptyFileOrTooManyLinesAreReportedAndRaised)
         EXPECT_EQ(ErrorOf([] { GetAnecdote(); }).number, number);
         ASSERT_EQ(player.boxes.size(), 1U);
         EXPECT_NE(player.boxes.front().text.find("№ " + std::to_string(number)), std::string::npos);
+    }
+}
+
+TEST(ShippedAnecdotes, AreEnoughAndWrittenAsTheReaderExpects)
+{
+    const std::string bytes = ReadWholeFile(TORVENHALL_ASSETS "ANECDOT.DAT");
+    std::vector<std::string> lines = Split(FromWindows1251(bytes), "\r\n");
+    EXPECT_EQ(lines.back(), "") << "the last line is ended";
+    lines.pop_back();
+    EXPECT_EQ(lines.front(), Header);
+    EXPECT_GE(lines.size(), 1U + 120U);
+    EXPECT_EQ(std::set(lines.begin(), lines.end()).size(), lines.size()) << "told twice";
+    for (const std::string& line : lines) {
+        EXPECT_FALSE(line.empty());
+        EXPECT_LE(Split(line, "<CRLF>").size(), 6U) << line;
+        EXPECT_EQ(line.find_first_of("\r\n"), std::string::npos) << line;
     }
 }
 

@@ -219,6 +219,34 @@ TEST_F(SavedGames, ADeathWhileTheSaveDialogIsOpenSavesNothing)
     EXPECT_EQ(GameState.PlayerName, "Пётр");
 }
 
+TEST_F(SavedGames, TheProgramsEndWhileTheSaveDialogIsOpenSavesNothing)
+{
+    player.games.emplace_back("late");
+    player.whileDialogOpen.emplace_back([] { EnterRules([] { EndProgram(); }); });
+    EnterRules(SaveGame);
+    EXPECT_TRUE(ListSavedGames().empty());
+}
+
+TEST_F(SavedGames, AFolderThatVanishesWhileTheDialogIsOpenIsMadeAgain)
+{
+    player.games.emplace_back("kept");
+    player.whileDialogOpen.emplace_back([this] { std::filesystem::remove(Folder() + "SAVE"); });
+    EnterRules(SaveGame);
+    EXPECT_EQ(ListSavedGames(), Texts{"kept"});
+}
+
+TEST_F(SavedGames, BothRefusalsOfALoadHaveTheStopSign)
+{
+    player.games.emplace_back("nothing");
+    EnterRules(LoadGame);
+    SavedGame lines = LinesOf(KnownLife());
+    lines.front() = "other";
+    LoadLines(lines);
+    ASSERT_EQ(player.boxes.size(), 2U);
+    EXPECT_EQ(player.boxes[0].icon, Icon::Critical);
+    EXPECT_EQ(player.boxes[1].icon, Icon::Critical);
+}
+
 TEST_F(SavedGames, AGameThatVanishedIsTold)
 {
     Save("a");
@@ -271,8 +299,9 @@ TEST_F(SavedGames, EachDamagedLineStopsTheLoadThereAndIsReported)
     for (std::size_t line = 2; line <= SavedLines; ++line) {
         for (const Damage& damage : damages) {
             const bool isText = line == 6 || line == 9;
+            const bool isBoolean = line == 27 || line == 28; // any number is read
             const int number = isText                   ? 0
-                               : line == 2              ? damage.wide
+                               : line == 2 || isBoolean ? damage.wide
                                : line == 4 || line == 5 ? damage.calendar
                                                         : damage.narrow;
             if (number == 0) {

@@ -52,6 +52,7 @@ void GameLabel::SetColour(const QColor& newColour)
 {
     if (colour != newColour) {
         colour = newColour;
+        SetSpokenCaption(spokenCaption);
         update();
     }
 }
@@ -89,7 +90,9 @@ void GameLabel::SetSpokenCaption(const QString& caption)
 {
     spokenCaption = caption;
     if (!caption.isEmpty()) {
-        setAccessibleName(caption + ": " + text());
+        // Not every screen reader hears an alert, but each hears a name change.
+        const QString warning = colour == colour::Danger ? ", опасно" : QString();
+        setAccessibleName(caption + ": " + text() + warning);
     }
 }
 
@@ -123,7 +126,8 @@ void GameLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     if (lit) {
-        painter.fillRect(rect(), QColor(192, 255, 255, 48));
+        // Below the caption above it, which must stay readable.
+        painter.fillRect(rect().adjusted(0, Px(3), 0, 0), QColor(192, 255, 255, 48));
     }
     painter.setPen(colour);
     painter.setFont(font());

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QImage>
+#include <QStringList>
+#include <QWidget>
+
+namespace torvenhall::test
+{
+
+/// How a finding names a control.
+QString NameOf(const QWidget& control, const QString& text);
+
+/// Every word that a player could not read whole, or that lies over another;
+/// empty when all is well.
+QStringList TextFindings(QWidget& window);
+
+/// Every text whose contrast to the brightest or the darkest pixel behind it
+/// is below the given ratio.
+QStringList ContrastFindings(QWidget& window, double least);
+
+/// The relation of two colours' relative luminance, 1 to 21.
+double Contrast(QRgb one, QRgb other);
+
+QImage Render(QWidget& window);
+
+} // namespace torvenhall::test
