@@ -25,9 +25,6 @@ openbox                 openbox
 dbus-daemon             dbus-run-session
 at-spi2-core            -
 python3-pyatspi         -
-at-spi2-core            -
-dbus-daemon             dbus-run-session
-python3-pyatspi         -
 "
 readonly OLDEST_CMAKE=3.25
 

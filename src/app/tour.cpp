@@ -133,7 +133,7 @@ private:
     {
         EnterRules([this] {
             LiveAwhile();
-            frontEnd.EnableTimer(false);
+            GameState.GameSpeed = 0; // the time stands still for the pictures
             ShowLabel(Label::lblMessage, LongMessage);
             frontEnd.SetMainTitle("Marshend Torvenhall 1.5 - Игрок");
             frontEnd.ShowMainWindow();

@@ -7,6 +7,7 @@
 #include "resources/basLangMGR.h"
 #include "ui/support/metrics.h"
 #include "ui/support/text.h"
+#include "ui/support/theme.h"
 
 namespace torvenhall
 {
@@ -17,14 +18,15 @@ frmLang::frmLang(QWidget* parent)
 {
     setWindowTitle("Select Language");
     Surface().AddPanel({12, 12, 356, 306}, Scene::Panel::Deep);
-    AddLabel("Label1", "Present Languages:", {26, 20, 328, 20}, TextFont(12));
+    AddLabel("Label1", "Present Languages:", {26, 20, 328, 20}, TextFont(12))
+        ->SetColour(colour::Warm);
     list->setObjectName("List1");
     list->setAccessibleName("Present Languages:");
     list->setGeometry(PxRect({26, 42, 328, 104}));
     for (const std::string& file : LangFiles()) {
         list->addItem(QFileInfo(Text(file)).completeBaseName());
     }
-    AddLabel("Label2", "Language Info:", {26, 152, 328, 20}, TextFont(12));
+    AddLabel("Label2", "Language Info:", {26, 152, 328, 20}, TextFont(12))->SetColour(colour::Warm);
     info->setObjectName("Text1");
     info->setAccessibleName("Language Info:");
     info->setReadOnly(true);

@@ -40,6 +40,7 @@ void frmLocGame::AddEntries(const GameNameQuestion& question)
     list->setObjectName("List1");
     list->setAccessibleName(Text(question.heading));
     list->setGeometry(PxRect({26, 44, 328, 186}));
+    list->setSpacing(Px(2));
     for (const std::string& game : question.games) {
         list->addItem(Text(game));
     }

@@ -34,7 +34,7 @@ constexpr double Height = HeightTwips / 15.0 - MenuHeight;
 constexpr int TickMilliseconds = 250;
 
 /// Lies over the main window while the game is paused: everything is dimmed,
-/// and two bars stand across it. Clicks go through.
+/// and a sign with two bars stands in the middle. Clicks go through.
 class PauseVeil : public QWidget
 {
 public:
@@ -51,14 +51,18 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillRect(rect(), QColor(3, 6, 12, 120));
+        painter.fillRect(rect(), QColor(3, 6, 12, 110));
+        QRectF sign(0, 0, Px(72), Px(72));
+        sign.moveCenter(QRectF(rect()).center());
+        painter.setPen(QPen(colour::LightCyan, Px(2)));
+        painter.setBrush(QColor(4, 8, 14, 235));
+        painter.drawEllipse(sign);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(192, 255, 255, 46));
-        const QSizeF bar(width() * 0.13, height() * 0.56);
-        const double top = (height() - bar.height()) / 2;
-        for (const double middle : {0.38, 0.62}) {
-            const QRectF place({width() * middle - bar.width() / 2, top}, bar);
-            painter.drawRoundedRect(place, Px(10), Px(10));
+        painter.setBrush(colour::LightCyan);
+        for (const int side : {-1, 1}) {
+            QRectF bar(0, 0, Px(10), Px(30));
+            bar.moveCenter(sign.center() + QPointF(side * Px(10), 0));
+            painter.drawRoundedRect(bar, Px(2), Px(2));
         }
     }
 };

@@ -215,6 +215,7 @@ void frmNetwork::Load()
 void frmNetwork::ShowLine(GameLabel* status, const std::string& text, WaitMark* mark, bool waits)
 {
     status->ShowText(Text(text));
+    status->SetColour(text == "Status: Disconnected" ? colour::Caption : colour::LightCyan);
     mark->Step(waits);
 }
 

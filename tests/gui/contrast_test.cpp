@@ -17,15 +17,18 @@ constexpr double Least = 4.5;
 class Texts : public EveryWindow
 {
 protected:
-    Texts() { ShowTheLongestTexts(); }
+    void SetUp() override
+    {
+        // The full colour of thin letters appears only where they are large.
+        if (qApp->devicePixelRatio() < 2 && UnitScale() < 1.4) {
+            GTEST_SKIP() << "measured at the larger scales";
+        }
+        ShowTheLongestTexts();
+    }
 
     void ExpectReadable()
     {
         ForEach([](const WindowRow&, QWidget& window) {
-            // The full colour of thin letters appears only on a dense screen.
-            if (window.devicePixelRatioF() < 2 && UnitScale() < 1.4) {
-                return;
-            }
             const QStringList findings = ContrastFindings(window, Least);
             EXPECT_TRUE(findings.isEmpty()) << findings.join('\n').toStdString();
         });
@@ -48,7 +51,7 @@ TEST_F(Texts, AreReadableForTheRich)
     ExpectReadable();
 }
 
-TEST_F(Texts, OfTheToolkitsOwnControlsAreReadable)
+TEST(Palette, OfTheToolkitsOwnControlsAreReadable)
 {
     const QPalette palette = QApplication::palette();
     using Role = QPalette::ColorRole;

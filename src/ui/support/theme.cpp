@@ -64,8 +64,8 @@ public:
                        const QWidget* widget) const override
     {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
-        if (element == PE_FrameLineEdit) {
-            MarkFocus(*option, *painter);
+        if (element == PE_FrameLineEdit || element == PE_Frame) {
+            MarkBorder(*option, *painter);
         }
     }
 
@@ -79,6 +79,13 @@ public:
     }
 
 private:
+    static void MarkBorder(const QStyleOption& option, QPainter& painter)
+    {
+        painter.setPen(QPen(colour::Border, std::max(1.0, UnitScale())));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+        MarkFocus(option, painter);
+    }
     static void MarkFocus(const QStyleOption& option, QPainter& painter)
     {
         if (option.state & State_HasFocus) {
