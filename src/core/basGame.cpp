@@ -101,7 +101,7 @@ constexpr std::array<std::string_view, 8> RankWords{"BEGIN",   "USER",  "GAMER",
 void SetMoney(Int32 value)
 {
     GameState.Money = value;
-    ShowLabel(Label::lblMoney, "$" + Decimal(value));
+    ShowLabel(Label::lblMoney, '$' + Decimal(value));
 }
 
 void SetHealth(Int16 value)
