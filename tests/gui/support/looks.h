@@ -7,9 +7,6 @@
 namespace torvenhall::test
 {
 
-/// How a finding names a control.
-QString NameOf(const QWidget& control, const QString& text);
-
 /// Every word that a player could not read whole, or that lies over another;
 /// empty when all is well.
 QStringList TextFindings(QWidget& window);
@@ -21,6 +18,7 @@ QStringList ContrastFindings(QWidget& window, double least);
 /// The relation of two colours' relative luminance, 1 to 21.
 double Contrast(QRgb one, QRgb other);
 
-QImage Render(QWidget& window);
+/// A window, or a part of it, as it is on screen.
+QImage Render(QWidget& window, const QRect& part = QRect(QPoint(), QSize(-1, -1)));
 
 } // namespace torvenhall::test

@@ -4,11 +4,9 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
-#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QTimer>
 #include <QWindow>
 
 #include "core/life.h"
@@ -26,25 +24,6 @@ void PrintTo(const QString& text, std::ostream* out)
 namespace torvenhall::test
 {
 
-namespace
-{
-
-const QStringList Waiting{"MessageBox", "InputBox", "frmPlayerName", "frmLocGame", "frmVirus"};
-constexpr int PatienceMilliseconds = 10000;
-
-void PressCaption(QWidget& dialog, const QString& caption)
-{
-    for (auto* button : dialog.findChildren<QAbstractButton*>()) {
-        if (TextOf(*button) == caption) {
-            Click(*button);
-            return;
-        }
-    }
-    ADD_FAILURE() << "no button " << caption.toStdString();
-}
-
-} // namespace
-
 Player::Player()
 {
     qApp->installEventFilter(this);
@@ -59,12 +38,14 @@ Player::~Player()
 
 bool Player::eventFilter(QObject* watched, QEvent* event)
 {
+    static const QStringList waiting{"MessageBox", "InputBox", "frmPlayerName", "frmLocGame",
+                                     "frmVirus"};
     if (event->type() == QEvent::Timer && watched->objectName() == "tmrTime") {
         return !clockRuns;
     }
     auto* dialog = qobject_cast<QDialog*>(watched);
     if (watches && dialog && event->type() == QEvent::Show && !event->spontaneous() &&
-        Waiting.contains(dialog->objectName())) {
+        waiting.contains(dialog->objectName())) {
         dialogs.push_back(dialog->objectName());
         if (const auto* box = qobject_cast<QMessageBox*>(dialog)) {
             boxes.push_back(box->windowTitle() + ": " + box->text());
@@ -78,34 +59,53 @@ bool Player::eventFilter(QObject* watched, QEvent* event)
 void Player::React(QWidget& dialog)
 {
     auto& queue = reactions[dialog.objectName()];
+    const auto* box = qobject_cast<QMessageBox*>(&dialog);
     if (!queue.empty()) {
         const Reaction next = queue.front();
         queue.pop_front();
         next(dialog);
-        return;
-    }
-    if (const auto* box = qobject_cast<QMessageBox*>(&dialog); box && box->buttons().size() == 1) {
+    } else if (box && box->buttons().size() == 1) {
         Click(*box->buttons().first());
-        return;
+    } else {
+        ADD_FAILURE() << "unexpected question: " << dialog.windowTitle().toStdString();
+        qobject_cast<QDialog*>(&dialog)->done(QDialog::Rejected);
     }
-    ADD_FAILURE() << "unexpected question: " << dialog.windowTitle().toStdString();
-    qobject_cast<QDialog*>(&dialog)->done(QDialog::Rejected);
 }
 
 void Player::NextLifeIs(const QString& name, int level)
 {
     When("frmPlayerName", [name, level](QWidget& dialog) {
-        auto& field = *dialog.findChild<QLineEdit*>("Text1");
+        auto& field = Control<QLineEdit>(&dialog, "Text1");
         field.selectAll();
         Type(field, name);
-        dialog.findChild<QComboBox*>("Combo1")->setCurrentIndex(level);
-        Click(*dialog.findChild<QAbstractButton*>("Command1"));
+        Control<QComboBox>(&dialog, "Combo1").setCurrentIndex(level);
+        Click(Control(&dialog, "Command1"));
     });
 }
 
-void Player::Answer(const QString& caption)
+void Player::SavesAs(const QString& name)
 {
-    When("MessageBox", [caption](QWidget& box) { PressCaption(box, caption); });
+    When("frmLocGame", [name](QWidget& dialog) {
+        Type(Control<QLineEdit>(&dialog, "Text1"), name);
+        Click(Control(&dialog, "Command1"));
+    });
+}
+
+void Player::Answers(const QString& caption)
+{
+    When("MessageBox", [caption](QWidget& box) { ClickCaption(box, caption); });
+}
+
+QStringList OpenWindows()
+{
+    QStringList names;
+    for (const QWidget* each : QApplication::topLevelWidgets()) {
+        if (each->isVisible()) {
+            names << each->objectName();
+        }
+    }
+    names.sort();
+    return names;
 }
 
 QWidget* Find(const QString& window)
@@ -120,13 +120,11 @@ QWidget* Find(const QString& window)
 
 QString TextOf(const QWidget& control)
 {
-    QString text;
     if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) {
-        text = button->text();
-    } else if (const auto* label = qobject_cast<const QLabel*>(&control)) {
-        return label->text();
+        return button->text().remove('&');
     }
-    return text.remove('&');
+    const auto* label = qobject_cast<const QLabel*>(&control);
+    return label ? label->text() : QString();
 }
 
 QString TextOf(const QString& window, const QString& name)
@@ -143,7 +141,17 @@ void Click(QWidget& control)
 
 void Click(const QString& window, const QString& name)
 {
-    Click(Control<>(window, name));
+    Click(Control(window, name));
+}
+
+void ClickCaption(QWidget& window, const QString& caption)
+{
+    for (auto* button : window.findChildren<QAbstractButton*>()) {
+        if (TextOf(*button) == caption) {
+            return Click(*button);
+        }
+    }
+    ADD_FAILURE() << "no button " << caption.toStdString();
 }
 
 void Choose(const QString& menuItem)
@@ -159,9 +167,9 @@ void Press(QWidget& where, int key, Qt::KeyboardModifiers modifiers)
         where.window()->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(where.window()));
         QTest::keyClick(where.window()->windowHandle(), static_cast<Qt::Key>(key), modifiers);
-        return;
+    } else {
+        QTest::keyClick(&where, static_cast<Qt::Key>(key), modifiers);
     }
-    QTest::keyClick(&where, static_cast<Qt::Key>(key), modifiers);
 }
 
 void Type(QWidget& where, const QString& text)
@@ -201,13 +209,6 @@ void Play::Begin(int level, const QString& name)
     player.dialogs.clear();
 }
 
-void Play::Tick(int times)
-{
-    for (int i = 0; i < times; ++i) {
-        EnterTick();
-    }
-}
-
 void Play::JustBeforeMidnight()
 {
     GameState.GameDate = std::chrono::year{2001} / 6 / 14;
@@ -215,21 +216,12 @@ void Play::JustBeforeMidnight()
     GameState.GameSpeed = 30;
 }
 
-void Play::FinishDay()
-{
-    const Date today = GameState.GameDate;
-    for (int i = 0; i < 100 && GameState.GameDate == today; ++i) {
-        EnterTick();
-    }
-}
-
 int Play::RunInEventLoop(const std::function<void()>& body)
 {
     QTimer::singleShot(0, qApp, body);
     QTimer patience;
-    patience.setSingleShot(true);
-    QObject::connect(&patience, &QTimer::timeout, qApp, [] { QCoreApplication::exit(-1); });
-    patience.start(PatienceMilliseconds);
+    patience.callOnTimeout([] { QCoreApplication::exit(-1); });
+    patience.start(10000);
     return QApplication::exec();
 }
 
@@ -240,18 +232,17 @@ QStringList Play::SavedFiles() const
 
 void Play::ExpectFreshLife(const QString& name)
 {
+    EXPECT_EQ(OpenWindows(), QStringList{"frmMain"});
     EXPECT_EQ(Text(GameState.PlayerName), name);
-    EXPECT_EQ(TextOf("frmMain", "lblMoney"), "$15");
-    EXPECT_EQ(TextOf("frmMain", "lblHappy"), "25%");
-    EXPECT_EQ(TextOf("frmMain", "lblHealth"), "40%");
-    EXPECT_EQ(TextOf("frmMain", "lblEat"), "75%");
-    EXPECT_EQ(TextOf("frmMain", "lblTime"), "1 января 2001 г. - 00:00");
     EXPECT_EQ(Main().windowTitle(), "Marshend Torvenhall 1.5 - " + name);
-}
-
-Meanwhile::Meanwhile(std::function<void()> newCall) : call(std::move(newCall))
-{
-    startTimer(1, Qt::PreciseTimer);
+    for (const auto& [label, text] : {std::pair{"lblMoney", "$15"},
+                                      {"lblHappy", "25%"},
+                                      {"lblHealth", "40%"},
+                                      {"lblEat", "75%"},
+                                      {"lblMessage", ""},
+                                      {"lblTime", "1 января 2001 г. - 00:00"}}) {
+        EXPECT_EQ(TextOf("frmMain", label), text);
+    }
 }
 
 } // namespace torvenhall::test

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QObject>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <deque>
 #include <functional>
@@ -40,8 +40,10 @@ public:
     void When(const QString& dialog, Reaction reaction) { reactions[dialog].push_back(reaction); }
     /// Answers the next name dialog.
     void NextLifeIs(const QString& name, int level = 1);
+    /// Types a name into the next dialog that saves, and confirms.
+    void SavesAs(const QString& name);
     /// Presses the button of that caption in the next message box.
-    void Answer(const QString& caption);
+    void Answers(const QString& caption);
 
     std::vector<QString> boxes;   ///< "title: text" of every message box so far
     std::vector<QString> dialogs; ///< object name of every dialog that waited
@@ -57,25 +59,27 @@ private:
     std::map<QString, std::deque<Reaction>> reactions;
 };
 
-/// The open window of that object name, which is also its class's name.
+/// The names of the windows on screen, sorted; each is also its class's name.
+QStringList OpenWindows();
+/// The open window of that name, or nothing.
 QWidget* Find(const QString& window);
-inline bool IsShown(const QString& window)
-{
-    return Find(window) != nullptr;
-}
 
-/// A control by the name of its window and its own; a test that asks for one
-/// that is missing ends there.
+/// A control by its name; a test that asks for one that is missing ends there.
 template <class Wanted = QAbstractButton>
-Wanted& Control(const QString& window, const QString& name)
+Wanted& Control(const QWidget* window, const QString& name)
 {
-    QWidget* shown = Find(window);
-    auto* found = shown ? shown->findChild<Wanted*>(name) : nullptr;
+    auto* found = window ? window->findChild<Wanted*>(name) : nullptr;
     if (!found) {
-        ADD_FAILURE() << "no " << window.toStdString() << '.' << name.toStdString();
+        ADD_FAILURE() << "no " << name.toStdString() << " in "
+                      << (window ? window->objectName().toStdString() : "a closed window");
         throw std::runtime_error("a control is missing");
     }
     return *found;
+}
+template <class Wanted = QAbstractButton>
+Wanted& Control(const QString& window, const QString& name)
+{
+    return Control<Wanted>(Find(window), name);
 }
 
 /// A label's or button's text as the player reads it, without mnemonics.
@@ -85,6 +89,7 @@ QString TextOf(const QString& window, const QString& name);
 /// The left mouse button on a control that must be visible and enabled.
 void Click(QWidget& control);
 void Click(const QString& window, const QString& name);
+void ClickCaption(QWidget& window, const QString& caption);
 void Choose(const QString& menuItem); ///< of the main window
 void Press(QWidget& where, int key, Qt::KeyboardModifiers modifiers = {});
 /// Types a text key by key; unlike QTest's own helper Cyrillic too.
@@ -102,18 +107,15 @@ protected:
     /// A new game through the name dialog.
     void Begin(int level = 1, const QString& name = "Иван");
     frmMain& Main() { return frontEnd.MainWindow(); }
-    /// Runs calls of the rules through their door.
-    static void Set(const std::function<void()>& calls) { EnterRules(calls); }
-    static void Tick(int times = 1);
+    bool ClockTicks() { return Control<QTimer>(&Main(), "tmrTime").isActive(); }
     /// The next tick begins a day.
     static void JustBeforeMidnight();
-    /// Ticks until the day changes.
-    static void FinishDay();
     /// Runs a body from the application's event loop; its exit code, or -1
     /// when the program did not end within ten seconds.
     static int RunInEventLoop(const std::function<void()>& body);
     QString Folder() const { return folder.path() + '/'; }
     QStringList SavedFiles() const;
+    /// A new life in the main window alone.
     void ExpectFreshLife(const QString& name);
 
     QTemporaryDir folder;
@@ -124,14 +126,13 @@ protected:
 };
 
 /// Calls again and again, in every loop, while it is there.
-class Meanwhile : public QObject
-{
-public:
-    explicit Meanwhile(std::function<void()> call);
-
-private:
-    void timerEvent(QTimerEvent*) override { call(); }
-    std::function<void()> call;
+struct Meanwhile : QTimer {
+    explicit Meanwhile(const std::function<void()>& call)
+    {
+        setTimerType(Qt::PreciseTimer);
+        callOnTimeout(call);
+        start(1);
+    }
 };
 
 } // namespace torvenhall::test

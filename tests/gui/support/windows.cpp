@@ -53,12 +53,14 @@ QWidget* MakePlayerName(LabelBoard&)
     return new frmPlayerName({"Введите Ваше имя", 1}, nullptr);
 }
 
-QString LongestOf(int count, const std::function<QString(int)>& item)
+/// The longest name of a category.
+template <class Name>
+auto LongestOf(Name name, int category)
 {
-    QString longest;
-    for (int i = 0; i < count; ++i) {
-        const QString each = item(i);
-        longest = each.size() > longest.size() ? each : longest;
+    auto longest = name(category, 0);
+    for (int i = 1; i < 12; ++i) {
+        const auto each = name(category, i);
+        longest = Text(each).size() > Text(longest).size() ? each : longest;
     }
     return longest;
 }
@@ -69,91 +71,67 @@ const std::vector<WindowRow>& AllWindows()
 {
     static const std::vector<WindowRow> rows{
         {"frmMain", "Marshend Torvenhall 1.5", nullptr,
-         "=Бюджет|=Настроение|=Сытость|=Здоровье|=Образование|=Статус|=Семья|"
-         "=Компьютер (Hardware)|=Компьютер (Software)|cmdHard=Железо|cmdSoft=Программы|"
-         "cmdHappy=Развлечения|cmdHealth=Больница|cmdShop=Магазин|cmdWork=Работа|"
-         "cmdSchool=Школа|cmdInInet=Выход в свет"},
+         "=Бюджет|=Настроение|=Сытость|=Здоровье|=Образование|=Статус|=Семья|=Компьютер "
+         "(Hardware)|=Компьютер (Software)|cmdHard=Железо|cmdSoft=Программы|cmdHappy=Развлечения|"
+         "cmdHealth=Больница|cmdShop=Магазин|cmdWork=Работа|cmdSchool=Школа|cmdInInet=Выход в "
+         "свет"},
         {"frmPlayerName", "Имя игрока", MakePlayerName,
-         "Label1=Введите Ваше имя:|Label2=*|Text1=*|Combo1=*|Command1=OK|Command2=Отмена"},
+         "Label1=Введите Ваше имя:|Label2=*|Command1=OK|Command2=Отмена"},
         {"frmPause", "Игра приостановлена", Make<frmPause>,
-         "Label1=Игра приостановлена|Label2=Игра приостановлена|Command1=Продолжить|"
-         "Command2=Сохранить игру|Command3=Свернуть игру"},
+         "Label1,Label2=Игра приостановлена|Command1=Продолжить|Command2=Сохранить игру|"
+         "Command3=Свернуть игру"},
         {"frmAbout", "О Torvenhall 1.5", Make<frmAbout>,
-         "=Torvenhall 1.5 full|=Версия 1.5 Full для Windows 98 SE/Me|Command1=OK|"
-         "Command2=О системе..."},
+         "=Torvenhall 1.5 full|=Версия 1.5 Full для Windows 98 SE/Me|Command1=OK|Command2=О "
+         "системе..."},
         {"frmHard", "Железо", Make<frmHard>,
-         "cmdUpggrade0=*|cmdUpggrade1=*|cmdUpggrade2=*|cmdUpggrade3=*|cmdUpggrade4=*|"
-         "cmdUpggrade5=*|cmdUpggrade6=*|cmdUpggrade7=*|cmdUpggrade8=*|"
-         "Label3=Железо оно и на Тайване железо|Label4=Железо оно и на Тайване железо|"
-         "Command8=Назад"},
+         "Label3,Label4=Железо оно и на Тайване железо|Command8=Назад"},
         {"frmSoft", "Софт", Make<frmSoft>,
-         "cmdUpgrade0=*|cmdUpgrade1=*|cmdUpgrade2=*|cmdUpgrade3=*|cmdUpgrade4=*|cmdUpgrade5=*|"
-         "Label4=А Вы удалили MS DOS 1.0?|cmdUpgraded=А Вы удалили MS DOS 1.0?|Command8=Назад"},
+         "Label4,cmdUpgraded=А Вы удалили MS DOS 1.0?|Command8=Назад"},
         {"frmHappy", "Развлечения", Make<frmHappy>,
-         "Label1=Что желаете?|Label3=Безопастный отдых|Label4=Безопастный отдых|"
-         "Command1=В казино - +20% - $25|Command2=В ресторан - +25% - $50|"
-         "Command3=В сауну - +50% - $75|Command4=5 мин. отдых - +5% - $5|"
-         "Command5=Перерыв - +10% - $15|Command8=Назад"},
+         "Label1=Что желаете?|Label3,Label4=Безопастный отдых|Command1=В казино - +20% - $25|"
+         "Command2=В ресторан - +25% - $50|Command3=В сауну - +50% - $75|Command4=5 мин. отдых - "
+         "+5% - $5|Command5=Перерыв - +10% - $15|Command8=Назад"},
         {"frmHospital", "Госпиталь", Make<frmHospital>,
-         "Label1=Без взяток:|Label3=Лечиться -- не учиться!|Label4=Лечиться -- не учиться!|"
-         "Command1=Полный курс - +50% - $250|Command2=Лекарства - +15% - $100|"
-         "Command3=Вывих - +2% - $20|Command4=Осмотр - +0% - $2|"
-         "Command5=Роды - + 75% - 50%h - $250|Command6=Выпить водки - +10 - $20|"
+         "Label1=Без взяток:|Label3,Label4=Лечиться -- не учиться!|Command1=Полный курс - +50% - "
+         "$250|Command2=Лекарства - +15% - $100|Command3=Вывих - +2% - $20|Command4=Осмотр - +0% "
+         "- $2|Command5=Роды - + 75% - 50%h - $250|Command6=Выпить водки - +10 - $20|"
          "Command7=Выпить спирта+10+10h $25|Command8=Назад"},
         {"frmShop", "Магазин", Make<frmShop>,
-         "Label1=Заправка|Label3=What are you wating for...|Label4=What are you wating for...|"
-         "Command1=Биг-Мак с сыром - +10% - $15|Command2=Хэппи-Мил с детьми +20%-$45- -15%h|"
-         "Command3=Альпен Гольд с Нескафе - +50 $120|"
-         "Command4=Яичница с чесноком +15%-$10-20%h|"
-         "Command5=Просто нормально пожрать +75%-$60|Command8=Назад"},
+         "Label1=Заправка|Label3,Label4=What are you wating for...|Command1=Биг-Мак с сыром - "
+         "+10% - $15|Command2=Хэппи-Мил с детьми +20%-$45- -15%h|Command3=Альпен Гольд с Нескафе "
+         "- +50 $120|Command4=Яичница с чесноком +15%-$10-20%h|Command5=Просто нормально пожрать "
+         "+75%-$60|Command8=Назад"},
         {"frmWork", "Работа", Make<frmWork>,
-         "Label1=Смена работы|Label2=Центр занятости населения|"
-         "Label3=Центр занятости населения|cmdWork0=Дворник - $10|cmdWork1=Сантехник -$15|"
-         "cmdWork2=Инженер - $20|cmdWork3=Мененджер - $80|cmdWork4=Дизайнер $95|"
-         "cmdWork5=Архитектор - $115|cmdWork6=Бухгалтер - $125|cmdWork7=Программист - $150|"
-         "cmdWork8=Сисадмин - $175|cmdWork9=Спец. по комп. безоп. $200|cmdWork10=Хакер - $540|"
-         "cmdWork11=Босс hakc-фирмы - $750|Command8=Назад"},
+         "Label1=Смена работы|Label2,Label3=Центр занятости населения|cmdWork0=Дворник - $10|"
+         "cmdWork1=Сантехник -$15|cmdWork2=Инженер - $20|cmdWork3=Мененджер - $80|"
+         "cmdWork4=Дизайнер $95|cmdWork5=Архитектор - $115|cmdWork6=Бухгалтер - $125|"
+         "cmdWork7=Программист - $150|cmdWork8=Сисадмин - $175|cmdWork9=Спец. по комп. безоп. "
+         "$200|cmdWork10=Хакер - $540|cmdWork11=Босс hakc-фирмы - $750|Command8=Назад"},
         {"frmEducation", "Повышение квалификации", Make<frmEducation>,
-         "Label3=Школа... Без неё -- никуда...|Label4=Школа... Без неё -- никуда...|"
-         "Label1=Если вы начнёте ходить в школу, то Ваш уровень образования будет увеличиваться на "
-         "10% каждый месяц. Оплата за обучение взымается ежемесячно по $50.|"
-         "Label2=Если Вы начнёте ходить на компьютерные курсы, то Ваш статус будет увеличиваться "
-         "на один уровень каждый месяц. Оплата за курсы взымается ежемесячно по $75|"
-         "Command1=Ходить в школу|Command2=Ходить на курсы|Command8=Назад"},
+         "Label3,Label4=Школа... Без неё -- никуда...|Label1=Если вы начнёте ходить в школу, то "
+         "Ваш уровень образования будет увеличиваться на 10% каждый месяц. Оплата за обучение "
+         "взымается ежемесячно по $50.|Label2=Если Вы начнёте ходить на компьютерные курсы, то "
+         "Ваш статус будет увеличиваться на один уровень каждый месяц. Оплата за курсы взымается "
+         "ежемесячно по $75|Command1=Ходить в школу|Command2=Ходить на курсы|Command8=Назад"},
         {"frmNetwork", "Выход в свет", Make<frmNetwork>,
-         "cmdChangeLocation0=*|cmdChangeLocation1=*|cmdChangeLocation2=*|picLocation0=*|"
-         "picLocation1=*|picLocation2=*|Label6=Всемирная паутина и один паук|"
-         "Label7=Всемирная паутина и один паук|Label9=Dial-Up Networking|"
-         "Label10=Microsoft HyperTerminal|Label1=Status: Disconnected|"
-         "Label2=Status: Disconnected|Label3=*|Label4=*|Label5=*|Picture1=*|Picture2=*|"
-         "txtAnecdot=*|Command1=Звонить ($1/час)|Command2=<<< HomePage >>>|Command5=Звонить|"
-         "Command7=Get Last Antivirus Database|"
-         "Command6=Download Cool, Necessary and Freeware Programs and Utilites for FREE!!!|"
-         "Command8=Hang-Up|Command9=Назад|cmdRnd=Next Random Anecdot|"
+         "Label3,Label4,Label5=*|Label6,Label7=Всемирная паутина и один паук|Label9=Dial-Up "
+         "Networking|Label10=Microsoft HyperTerminal|Label1,Label2=Status: Disconnected|"
+         "Command1=Звонить ($1/час)|Command2=<<< HomePage >>>|Command5=Звонить|Command7=Get Last "
+         "Antivirus Database|Command6=Download Cool, Necessary and Freeware Programs and "
+         "Utilites for FREE!!!|Command8=Hang-Up|Command9=Назад|cmdRnd=Next Random Anecdot|"
          "cmdBBSDownload=Download Soft|cmdBBSUpload=Upload Soft"},
         {"frmVirus", "Внимание! Вирус!", Make<frmVirus>,
-         "Image1=*|Label1=На Вашем компьютере обнаружен злой вирус!|"
-         "Command1=Убить антивирусником|Command2=Отпустить на волю"},
+         "Image1=*|Label1=На Вашем компьютере обнаружен злой вирус!|Command1=Убить "
+         "антивирусником|Command2=Отпустить на волю"},
         {"frmLocGame", "Сохранение игры", MakeNames<true>,
-         "Label1=Доступные игры:|List1=*|Text1=*|Command1=Сохранить|Command2=Отмена"},
+         "Label1=Доступные игры:|Command1=Сохранить|Command2=Отмена"},
         {"frmLocGame", "Загрузка игры", MakeNames<false>,
-         "Label1=Доступные игры:|List1=*|Text1=*|Command1=Загрузить|Command2=Отмена"},
+         "Label1=Доступные игры:|Command1=Загрузить|Command2=Отмена"},
         {"frmLang", "Select Language", Make<frmLang>,
-         "Label1=Present Languages:|List1=*|Label2=Language Info:|Text1=*|Command1=Select|"
+         "Label1=Present Languages:|List1,Text1=*|Label2=Language Info:|Command1=Select|"
          "Command2=Cancel"},
     };
     return rows;
-}
-
-Shown::Shown(const WindowRow& row, QtFrontEnd& frontEnd)
-    : owned(row.make ? row.make(frontEnd.Board()) : nullptr),
-      window(owned ? owned.get() : &frontEnd.MainWindow())
-{
-    if (auto* loaded = qobject_cast<GameWindow*>(window)) {
-        loaded->Load();
-    }
-    window->show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(window));
 }
 
 EveryWindow::EveryWindow()
@@ -162,19 +140,33 @@ EveryWindow::EveryWindow()
     frontEnd.MainWindow();
 }
 
-void EveryWindow::ForEach(const std::function<void(const WindowRow&, QWidget&)>& look)
+void EveryWindow::Show(const WindowRow& row, const Look& look)
+{
+    SCOPED_TRACE(row.name.toStdString() + " \"" + row.title.toStdString() + '"');
+    const std::unique_ptr<QWidget> owned(row.make ? row.make(frontEnd.Board()) : nullptr);
+    QWidget& window = owned ? *owned : Main();
+    if (auto* loaded = qobject_cast<GameWindow*>(&window)) {
+        loaded->Load();
+    }
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    look(row, window);
+    window.hide();
+}
+
+void EveryWindow::ForEach(const Look& look)
 {
     for (const WindowRow& row : AllWindows()) {
-        SCOPED_TRACE(row.name.toStdString() + " \"" + row.title.toStdString() + '"');
-        const Shown shown(row, frontEnd);
-        look(row, *shown);
+        Show(row, look);
     }
 }
 
 void EveryWindow::ShowTheLongestTexts()
 {
-    Set([this] {
-        ShowDanger();
+    EnterRules([] {
+        for (const Label vital : {Label::lblHappy, Label::lblEat, Label::lblHealth}) {
+            ShowLabel(vital, "-32767%", TextColour::Red);
+        }
         SetMoney(-2147480000);
         SetEducation(5);
         SetIntelligence(-32767);
@@ -189,26 +181,16 @@ void EveryWindow::ShowTheLongestTexts()
                   "вчера вывел свою жену под Ниогарский Водопад, т.к. она тебе изменила, но чтобы "
                   "ты её не убил вооще, она тебе дала $150 (какая жена твоя богатая)!!!");
         for (int category = 0; category < HardwareCategories; ++category) {
-            const QString name =
-                LongestOf(12, [&](int i) { return Text(GetHardwareName(category, i)); });
-            ShowLabel(static_cast<Label>(static_cast<int>(Label::lblhard0) + category), Utf8(name));
+            ShowLabel(static_cast<Label>(static_cast<int>(Label::lblhard0) + category),
+                      LongestOf(GetHardwareName, category));
         }
         constexpr Label software[] = {Label::lblOs,      Label::lblAntiv, Label::lblProg,
                                       Label::lblGraphic, Label::lblInet,  Label::lblGames};
         for (int category = 0; category < SoftwareCategories; ++category) {
-            const QString name =
-                LongestOf(12, [&](int i) { return Text(GetSoftwareName(category, i)); });
-            ShowLabel(software[category], Utf8(name));
+            ShowLabel(software[category], LongestOf(GetSoftwareName, category));
         }
         ShowLabel(Label::lblOther, "32767 Мб");
     });
-}
-
-void EveryWindow::ShowDanger()
-{
-    for (const Label vital : {Label::lblHappy, Label::lblEat, Label::lblHealth}) {
-        ShowLabel(vital, "-32767%", TextColour::Red);
-    }
 }
 
 } // namespace torvenhall::test

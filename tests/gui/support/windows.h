@@ -13,40 +13,27 @@ namespace torvenhall::test
 struct WindowRow {
     QString name, title;
     QWidget* (*make)(LabelBoard& board);
-    /// "name=text|name=text": its controls and their exact texts; the name of
-    /// a bare caption is empty, a text that depends on the game "*".
+    /// "name=text|name,name=text": its controls and their exact texts; a bare
+    /// caption has no name, a text that depends on the game is "*".
+    /// Controls of such texts that other tests use are left out.
     QString controls;
 };
 const std::vector<WindowRow>& AllWindows();
 
-/// A window of the table on screen, without the rules having opened it; the
-/// main window is the game's own.
-class Shown
-{
-public:
-    Shown(const WindowRow& row, QtFrontEnd& frontEnd);
-    ~Shown() { window->hide(); }
-    Shown(const Shown&) = delete;
-    Shown& operator=(const Shown&) = delete;
-    QWidget& operator*() const { return *window; }
-    QWidget* operator->() const { return window; }
-
-private:
-    std::unique_ptr<QWidget> owned;
-    QWidget* window;
-};
-
-/// A test that opens every window of the table and looks at it.
+/// A test that opens every window of the table, without the rules having
+/// opened it, and looks at it; the main window is the game's own.
 class EveryWindow : public Play
 {
 protected:
+    using Look = std::function<void(const WindowRow& row, QWidget& window)>;
+
     EveryWindow();
-    /// Calls with each window, its name in every failure's trace.
-    void ForEach(const std::function<void(const WindowRow& row, QWidget& window)>& look);
-    /// The longest text in every label of the main window.
+    /// Calls with one window on screen, its name in every failure's trace.
+    void Show(const WindowRow& row, const Look& look);
+    void ForEach(const Look& look);
+    /// The longest text in every label of the main window, in red where one
+    /// may turn red.
     void ShowTheLongestTexts();
-    /// A life near its end, in red.
-    void ShowDanger();
 };
 
 } // namespace torvenhall::test
