@@ -57,10 +57,10 @@ void frmEducation::Load()
     school->ShowText(Text(buttons.school));
     courses->ShowText(Text(buttons.courses));
     if (buttons.schoolDone) {
-        school->setEnabled(false);
+        SetUsable(*school, false);
     }
     if (buttons.coursesDone) {
-        courses->setEnabled(false);
+        SetUsable(*courses, false);
     }
     ActivityWindow::Load();
 }

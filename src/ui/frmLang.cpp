@@ -31,6 +31,10 @@ frmLang::frmLang(QWidget* parent)
     info->setAccessibleName("Language Info:");
     info->setReadOnly(true);
     info->setGeometry(PxRect({26, 174, 328, 90}));
+    auto* files = new QListWidget(&Surface()); // nothing uses it yet
+    files->setObjectName("File1");
+    files->setAccessibleName("File1");
+    files->hide();
     AddButton("Command1", "Select", {158, 276, 96, 30});
     AddButton("Command2", "Cancel", {262, 276, 92, 30});
     connect(list, &QListWidget::itemClicked, this,

@@ -1,6 +1,7 @@
 #include "ui/frmMain.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -222,6 +223,10 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
 
 bool frmMain::HandleKey(const QKeyEvent& event)
 {
+    // A menu hands the keys that it has no use for on to its window.
+    if (QApplication::activePopupWidget() || menuBar()->hasFocus()) {
+        return false;
+    }
     const auto others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     if (event.isAutoRepeat() || (event.modifiers() & others)) {
         return false;

@@ -224,9 +224,9 @@ void frmNetwork::RefreshChoices()
     const NetworkState& network = Network();
     ShowLine(inetStatus, network.inetStatus, inetMark, network.inetWaits != 0);
     ShowLine(bbsStatus, network.bbsStatus, bbsMark, network.bbsWaits != 0);
-    inetDial->setEnabled(network.inetDialEnabled);
-    bbsDial->setEnabled(network.bbsDialEnabled);
-    download->setEnabled(network.downloadEnabled);
+    SetUsable(*inetDial, network.inetDialEnabled);
+    SetUsable(*bbsDial, network.bbsDialEnabled);
+    SetUsable(*download, network.downloadEnabled);
     internet->setEnabled(network.InetConnected == True);
     bulletin->setEnabled(network.BbsConnected == True);
 }

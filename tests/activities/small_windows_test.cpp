@@ -3,7 +3,6 @@
 #include "activities/education.h"
 #include "activities/virus.h"
 #include "core/basGame.h"
-#include "core/entry.h"
 #include "support/life.h"
 
 namespace torvenhall::test
@@ -11,107 +10,82 @@ namespace torvenhall::test
 namespace
 {
 
-class EducationWindow : public Life
-{
-protected:
-    EducationWindow()
-    {
-        Begin();
-        GameState.AttendCourses = GameState.AttendSchool = False;
-    }
-};
+using EducationWindow = BegunLife;
 
 TEST_F(EducationWindow, TwoClicksRestoreFlagAndCaption)
 {
-    EXPECT_EQ(LoadEducation().school, "Ходить в школу");
-    EXPECT_EQ(LoadEducation().courses, "Ходить на курсы");
-    ToggleSchool();
-    ToggleCourses();
-    EXPECT_EQ(GameState.AttendSchool, -1);
-    EXPECT_EQ(GameState.AttendCourses, -1);
-    EXPECT_EQ(LoadEducation().school, "Бросить эту школу");
-    EXPECT_EQ(LoadEducation().courses, "Бросить эти курсы");
-    ToggleSchool();
-    ToggleCourses();
-    EXPECT_EQ(LoadEducation().school, "Ходить в школу");
-    EXPECT_EQ(GameState.AttendCourses, 0);
+    GameState.AttendCourses = GameState.AttendSchool = False;
+    for (const int attends : {0, -1, 0}) {
+        EXPECT_EQ(GameState.AttendSchool, attends);
+        EXPECT_EQ(GameState.AttendCourses, attends);
+        EXPECT_EQ(LoadEducation().school, attends == 0 ? "Ходить в школу" : "Бросить эту школу");
+        EXPECT_EQ(LoadEducation().courses, attends == 0 ? "Ходить на курсы" : "Бросить эти курсы");
+        ToggleSchool();
+        ToggleCourses();
+    }
 }
 
 TEST_F(EducationWindow, AFinishedSchoolIsAnnouncedOnTheCoursesButton)
 {
-    SetIntelligence(100);
-    EXPECT_EQ(LoadEducation().school, "Ходить в школу");
-    EXPECT_TRUE(LoadEducation().schoolDone);
-    EXPECT_EQ(LoadEducation().courses, "Закончил эту школу!");
-    EXPECT_FALSE(LoadEducation().coursesDone);
-
-    SetEducation(8);
-    EXPECT_EQ(LoadEducation().courses, "Закончил эту школу!");
-    EXPECT_TRUE(LoadEducation().coursesDone);
-
-    SetIntelligence(110);
-    EXPECT_EQ(LoadEducation().courses, "Закончил эти курсы!");
-    EXPECT_FALSE(LoadEducation().schoolDone);
+    GameState.AttendCourses = GameState.AttendSchool = False;
+    struct {
+        int intelligence, rank;
+        bool schoolDone, coursesDone;
+        const char* courses;
+    } const cases[]{{100, 1, true, false, "Закончил эту школу!"},
+                    {100, 8, true, true, "Закончил эту школу!"},
+                    {110, 8, false, true, "Закончил эти курсы!"}};
+    for (const auto& row : cases) {
+        SetIntelligence(row.intelligence);
+        SetEducation(row.rank);
+        EXPECT_EQ(LoadEducation().school, "Ходить в школу");
+        EXPECT_EQ(LoadEducation().courses, row.courses);
+        EXPECT_EQ(LoadEducation().schoolDone, row.schoolDone);
+        EXPECT_EQ(LoadEducation().coursesDone, row.coursesDone);
+    }
 }
 
-class VirusWindow : public Life
-{
-protected:
-    VirusWindow() { Begin(); }
-};
+using VirusWindow = BegunLife;
 
 TEST_F(VirusWindow, LettingGoCostsATwentiethRoundedHalfToEven)
 {
     struct {
         int money, left;
-        const char* text;
-    } const cases[]{
-        {10, 10, "Вирус сожрал 0 баксов!"},    {30, 28, "Вирус сожрал 2 баксов!"},
-        {100, 95, "Вирус сожрал 5 баксов!"},   {0, 0, "Вирус сожрал 0 баксов!"},
-        {-30, -28, "Вирус сожрал -2 баксов!"}, {-10, -10, "Вирус сожрал 0 баксов!"},
-    };
+        const char* eaten;
+    } const cases[]{{10, 10, "0"}, {30, 28, "2"},    {100, 95, "5"},
+                    {0, 0, "0"},   {-30, -28, "-2"}, {-10, -10, "0"}};
     for (const auto& row : cases) {
         SetMoney(row.money);
-        player.Forget();
         ReleaseVirus();
-        ASSERT_EQ(player.boxes.size(), 1U);
-        EXPECT_EQ(player.boxes[0].text, row.text);
-        EXPECT_EQ(player.boxes[0].title, "Сообщение");
-        EXPECT_EQ(player.boxes[0].icon, Icon::Exclamation);
+        EXPECT_EQ(Told(),
+                  Texts{std::string("! Сообщение: Вирус сожрал ") + row.eaten + " баксов!"});
         EXPECT_EQ(GameState.Money, row.left);
     }
-}
-
-TEST_F(VirusWindow, WithoutAnAntivirusTheFightIsLostWhateverTheLuck)
-{
-    SetMoney(100);
-    dice.values = {0.3F, 0.99F};
-    FightVirus();
-    EXPECT_EQ(player.boxes.back().text, "Нет у вас антивируса! Вирус сожрал 5 баксов!");
-    EXPECT_EQ(GameState.Money, 95);
-    EXPECT_EQ(dice.reseeds.back(), 0.3F * 10.0F) << "reseeded from the first draw";
-}
-
-TEST_F(VirusWindow, AnyAntivirusWinsOnLuckAboveFive)
-{
-    for (int luck = 0; luck <= 10; ++luck) {
-        GameState.SoftAntivirus = 1;
-        SetMoney(100);
-        dice.values = {0.5F, DrawOf(luck, 10)};
-        FightVirus();
-        EXPECT_EQ(player.boxes.back().text,
-                  luck > 5 ? "Поздравляю! Вирус убит!" : "Не повезло! Он сожрал 5 баксов!");
-        EXPECT_EQ(GameState.Money, luck > 5 ? 100 : 95);
-    }
-}
-
-TEST_F(VirusWindow, TheChargeFollowsTheMoneyOfTheMomentNotOfTheMessage)
-{
+    // The charge follows the money of the moment, not of the message.
     SetMoney(100);
     player.whileBoxOpen.push_back([] { SetMoney(200); });
     ReleaseVirus();
-    EXPECT_EQ(player.boxes.back().text, "Вирус сожрал 5 баксов!");
+    EXPECT_EQ(Told(), Texts{"! Сообщение: Вирус сожрал 5 баксов!"});
     EXPECT_EQ(GameState.Money, 190);
+}
+
+TEST_F(VirusWindow, AnyAntivirusWinsOnLuckAboveFiveAndNoneNever)
+{
+    for (const int antivirus : {0, 1, 4}) {
+        for (int luck = 0; luck <= 10; ++luck) {
+            GameState.SoftAntivirus = antivirus;
+            SetMoney(100);
+            dice.values = {0.3F, DrawOf(luck, 10)};
+            FightVirus();
+            const bool won = antivirus > 0 && luck > 5;
+            EXPECT_EQ(player.boxes.back().text, won ? "Поздравляю! Вирус убит!"
+                                                : antivirus == 0
+                                                    ? "Нет у вас антивируса! Вирус сожрал 5 баксов!"
+                                                    : "Не повезло! Он сожрал 5 баксов!");
+            EXPECT_EQ(GameState.Money, won ? 100 : 95);
+        }
+    }
+    EXPECT_EQ(dice.reseeds.back(), 0.3F * 10.0F) << "reseeded from the first draw";
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "core/basGame.h"
 
-#include "core/entry.h"
 #include "core/life.h"
 #include "support/life.h"
 
@@ -9,131 +8,95 @@ namespace torvenhall::test
 namespace
 {
 
-class Statistics : public Life
-{
-};
-
-struct VitalCase {
-    const char* name;
-    void (*set)(Int16);
-    Label label;
-    int stillLight; ///< the lowest light value
-    int stillAlive; ///< the lowest value that does not kill
-    const char* text;
-    const char* title;
-};
-
-const VitalCase Vitals[]{
-    {"health", SetHealth, Label::lblHealth, -30, -49,
-     "Вы скончались от полученных травм. Время смерти -- 13:45", "Дана Скали"},
-    {"satiety", SetEatLevel, Label::lblEat, -20, -34, "Вы умерли голодной смертью!",
-     "Желаю тебе быть большим и тольстым"},
-    {"mood", SetHappy, Label::lblHappy, -100, -74,
-     "Вы спрыгнули с 15 этажа и разбились насмерть!!!", "Критический уровень настроения"},
-};
+using Statistics = Life;
 
 TEST_F(Statistics, AVitalTurnsRedBelowItsWarningBoundAndKillsAtItsFatalOne)
 {
-    for (const VitalCase& vital : Vitals) {
-        SCOPED_TRACE(vital.name);
+    constexpr auto Light = TextColour::LightCyan;
+    constexpr auto Red = TextColour::Red;
+    const char* injuries = "i Дана Скали: Вы скончались от полученных травм. Время смерти -- 13:45";
+    const char* hunger = "i Желаю тебе быть большим и тольстым: Вы умерли голодной смертью!";
+    const char* despair = "i Критический уровень настроения: Вы спрыгнули с 15 этажа и разбились "
+                          "насмерть!!!";
+    struct {
+        void (*set)(Int16);
+        Label label;
+        int value;
+        TextColour colour;
+        const char* death;
+    } const cases[]{
+        {SetHealth, lblHealth, 150, Light, nullptr}, {SetHealth, lblHealth, -30, Light, nullptr},
+        {SetHealth, lblHealth, -31, Red, nullptr},   {SetHealth, lblHealth, -49, Red, nullptr},
+        {SetHealth, lblHealth, -50, Red, injuries},  {SetEatLevel, lblEat, 150, Light, nullptr},
+        {SetEatLevel, lblEat, -20, Light, nullptr},  {SetEatLevel, lblEat, -21, Red, nullptr},
+        {SetEatLevel, lblEat, -34, Red, nullptr},    {SetEatLevel, lblEat, -35, Red, hunger},
+        {SetHappy, lblHappy, 150, Light, nullptr},   {SetHappy, lblHappy, -74, Light, nullptr},
+        {SetHappy, lblHappy, -75, Light, despair},   {SetHappy, lblHappy, -100, Light, despair},
+        {SetHappy, lblHappy, -101, Red, despair},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(std::string(LabelName(row.label)) + " " + std::to_string(row.value));
         Begin();
         GameState.GameTime = {13, 45};
-
-        vital.set(150);
-        EXPECT_EQ(LabelShown(vital.label), "150%");
-        const int lowestLight = std::max(vital.stillLight, vital.stillAlive);
-        vital.set(lowestLight);
-        EXPECT_EQ(player.colours[vital.label], TextColour::LightCyan);
-        vital.set(vital.stillAlive);
-        EXPECT_EQ(player.colours[vital.label],
-                  vital.stillAlive >= vital.stillLight ? TextColour::LightCyan : TextColour::Red);
-        EXPECT_TRUE(player.boxes.empty());
-        if (vital.stillLight > vital.stillAlive) {
-            vital.set(vital.stillLight - 1);
-            EXPECT_EQ(player.colours[vital.label], TextColour::Red);
+        if (row.death != nullptr) {
+            EXPECT_THROW(row.set(row.value), LifeEnd);
+        } else {
+            EXPECT_NO_THROW(row.set(row.value));
         }
-
-        EXPECT_THROW(vital.set(vital.stillAlive - 1), LifeEnd);
-        ASSERT_EQ(player.boxes.size(), 1U);
-        EXPECT_EQ(player.boxes[0].text, vital.text);
-        EXPECT_EQ(player.boxes[0].title, vital.title);
-        EXPECT_EQ(player.boxes[0].icon, Icon::Information);
+        EXPECT_EQ(Told(), row.death != nullptr ? Texts{row.death} : Texts{});
+        EXPECT_EQ(LabelShown(row.label), std::to_string(row.value) + "%");
+        EXPECT_EQ(player.colours[row.label], row.colour);
     }
 }
 
-TEST_F(Statistics, AMoodThatKillsIsStillShownLightAboveMinusHundred)
+TEST_F(Statistics, TheOthersAreShownInTheirOwnWordsAndNeverRefused)
 {
-    Begin();
-    EXPECT_THROW(SetHappy(-100), LifeEnd);
-    EXPECT_EQ(player.colours[Label::lblHappy], TextColour::LightCyan);
-    EXPECT_THROW(SetHappy(-101), LifeEnd);
-    EXPECT_EQ(player.colours[Label::lblHappy], TextColour::Red);
-}
-
-TEST_F(Statistics, MoneyIsShownWithItsSignAndNeverRefused)
-{
-    SetMoney(-5);
-    EXPECT_EQ(LabelShown(Label::lblMoney), "$-5");
-    SetMoney(2147483647);
-    EXPECT_EQ(LabelShown(Label::lblMoney), "$2147483647");
-}
-
-TEST_F(Statistics, TheEducationLabelShowsIntelligenceAndTheStatusLabelTheRank)
-{
+    for (const int money : {-5, 2147483647}) {
+        SetMoney(money);
+        EXPECT_EQ(LabelShown(lblMoney), "$" + std::to_string(money));
+    }
     SetIntelligence(110);
-    EXPECT_EQ(LabelShown(Label::lblEducation), "110%");
-    const char* words[]{"",        "BEGIN", "USER",   "GAMER", "LAMER",
+    EXPECT_EQ(LabelShown(lblEducation), "110%");
+    const char* ranks[]{"",        "BEGIN", "USER",   "GAMER", "LAMER",
                         "PROG-ER", "ADMIN", "HACKER", "PROF",  ""};
     for (int rank = 0; rank <= 9; ++rank) {
         SetEducation(rank);
-        EXPECT_EQ(LabelShown(Label::lblStatus), words[rank]);
+        EXPECT_EQ(LabelShown(lblStatus), ranks[rank]);
         EXPECT_EQ(GameState.Education, rank);
     }
+    const std::pair<int, const char*> speeds[]{
+        {15, "Медленная"}, {30, "Нормальная"}, {60, "Быстрая"}, {45, "Быстрая"}};
+    for (const auto& [speed, caption] : speeds) {
+        SetGameSpeed(speed);
+        EXPECT_EQ(LabelShown(lblGameSpeed), std::string("Скорость игры: ") + caption);
+        EXPECT_EQ(GameState.GameSpeed, speed) << "an unknown speed is kept without a caption";
+    }
 }
 
-TEST_F(Statistics, ALevelSetsItsTargetAndAnUnknownOneChangesNothing)
+TEST_F(Statistics, ALevelSetsItsTargetAnUnknownOneNothingAndNoneTheNormalOne)
 {
     struct {
-        int level, money;
+        int asked, level, money;
         const char* caption;
-    } const levels[]{{0, 30000, "Сложность: Сложная"},
-                     {1, 10000, "Сложность: Нормальная"},
-                     {2, 5000, "Сложность: Лёгкая"},
-                     {3, 5000, "Сложность: Лёгкая"}};
+    } const levels[]{{0, 0, 30000, "Сложность: Сложная"},
+                     {1, 1, 10000, "Сложность: Нормальная"},
+                     {2, 2, 5000, "Сложность: Лёгкая"},
+                     {3, 2, 5000, "Сложность: Лёгкая"}};
+    Int16 level;
     for (const auto& row : levels) {
-        Int16 level = row.level;
+        level = row.asked;
         SetGameLevel(level);
         EXPECT_EQ(GameState.WinMoney, row.money);
-        EXPECT_EQ(GameState.GameLevel, std::min(row.level, 2));
-        EXPECT_EQ(LabelShown(Label::lblGameLevel), row.caption);
+        EXPECT_EQ(GameState.GameLevel, row.level);
+        EXPECT_EQ(LabelShown(lblGameLevel), row.caption);
     }
-    EXPECT_TRUE(player.boxes.empty());
-}
-
-TEST_F(Statistics, NoSelectedLevelTellsThePlayerAndBecomesTheNormalOne)
-{
-    Int16 level = -1;
+    EXPECT_EQ(Told(), Texts{});
+    level = -1;
     SetGameLevel(level);
     EXPECT_EQ(level, 1);
     EXPECT_EQ(GameState.WinMoney, 10000);
-    ASSERT_EQ(player.boxes.size(), 1U);
-    EXPECT_EQ(player.boxes[0].text, "Вы не выбрали уровень сложности игры. Сложность будет "
-                                    "установлена по-умелчанию (нормальная)");
-    EXPECT_EQ(player.boxes[0].title, "Ты чё, ослеп???");
-    EXPECT_EQ(player.boxes[0].icon, Icon::Exclamation);
-}
-
-TEST_F(Statistics, AnySpeedIsStoredButOnlyThreeHaveACaption)
-{
-    SetGameSpeed(15);
-    EXPECT_EQ(LabelShown(Label::lblGameSpeed), "Скорость игры: Медленная");
-    SetGameSpeed(30);
-    EXPECT_EQ(LabelShown(Label::lblGameSpeed), "Скорость игры: Нормальная");
-    SetGameSpeed(60);
-    EXPECT_EQ(LabelShown(Label::lblGameSpeed), "Скорость игры: Быстрая");
-    SetGameSpeed(45);
-    EXPECT_EQ(GameState.GameSpeed, 45);
-    EXPECT_EQ(LabelShown(Label::lblGameSpeed), "Скорость игры: Быстрая");
+    EXPECT_EQ(Told(), Texts{"! Ты чё, ослеп???: Вы не выбрали уровень сложности игры. Сложность "
+                            "будет установлена по-умелчанию (нормальная)"});
 }
 
 } // namespace

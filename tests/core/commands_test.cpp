@@ -10,7 +10,6 @@
 #include "core/entry.h"
 #include "core/errors.h"
 #include "core/programs.h"
-#include "network/network.h"
 #include "support/life.h"
 
 namespace torvenhall::test
@@ -18,40 +17,21 @@ namespace torvenhall::test
 namespace
 {
 
-class Commands : public Life
-{
-protected:
-    Commands() { Begin(); }
-};
+using Commands = BegunLife;
 
 TEST_F(Commands, GoingOnlineTakesAModemAndABrowserButNoSystem)
 {
-    for (const auto& [modem, browser] : {std::pair{0, 0}, {1, 0}, {0, 1}}) {
+    for (const auto& [modem, browser] : {std::pair{0, 0}, {1, 0}, {0, 1}, {1, 1}}) {
         GameState.HardComm = modem;
         GameState.SoftBrowser = browser;
-        player.Forget();
         GoOnline();
-        EXPECT_EQ(player.BoxTexts(),
-                  std::vector<std::string>{
-                      "Слабая машинка: Установи 9600 bps модем, Microsoft Windows 95 и Mirosoft "
-                      "Internet Explorer 3.0"});
-        EXPECT_FALSE(player.IsOpen(Window::frmNetwork));
+        const bool both = modem > 0 && browser > 0;
+        EXPECT_EQ(Told(),
+                  both ? Texts{}
+                       : Texts{"i Слабая машинка: Установи 9600 bps модем, Microsoft Windows 95 и "
+                               "Mirosoft Internet Explorer 3.0"});
+        EXPECT_EQ(player.IsOpen(Window::frmNetwork), both);
     }
-    GameState.HardComm = GameState.SoftBrowser = 1;
-    GoOnline();
-    EXPECT_TRUE(player.IsOpen(Window::frmNetwork));
-}
-
-TEST_F(Commands, ANetworkWindowThatOpensTellsTheTrueStatus)
-{
-    GameState.HardComm = GameState.SoftBrowser = 1;
-    EnterRules(DialInternet);
-    dice.values = {DrawOf(7, 10)};
-    player.duringWait.emplace_back([] { EnterRules(DialInternet); });
-    EnterRules(DownloadAntivirus);
-    EXPECT_EQ(Network().inetStatus, "Status: Connected") << "though it was hung up meanwhile";
-    GoOnline();
-    EXPECT_EQ(Network().inetStatus, "Status: Disconnected");
 }
 
 TEST_F(Commands, NothingThatAHandlerThrowsLeavesTheRules)
@@ -59,40 +39,27 @@ TEST_F(Commands, NothingThatAHandlerThrowsLeavesTheRules)
     EXPECT_NO_THROW(EnterRules([] { throw RuntimeError{error::Overflow, {}}; }));
     EXPECT_NO_THROW(EnterRules([] { throw std::runtime_error("?"); }));
     Trapped([] { throw std::bad_alloc(); });
-    EXPECT_TRUE(player.boxes.at(0).text.starts_with("Системная ошибка: Недостаточно памяти"));
+    Trapped([] { throw RuntimeError{error::TypeMismatch, {}}; });
     Trapped([] { throw RuntimeError{error::DiskFull, "подробность"}; });
-    EXPECT_NE(player.boxes.at(1).text.find(": подробность. Программа"), std::string::npos);
+    const Texts told = Told();
+    ASSERT_EQ(told.size(), 3U);
+    EXPECT_EQ(told[0], "x Torvenhall: Системная ошибка: Недостаточно памяти для выполнения "
+                       "команды. Закройте часть приложений и повторите попытку");
+    EXPECT_EQ(told[1], "x Torvenhall: Ошибка приложения или системная ошибка: Несовпадение типов "
+                       "данных! Обратитесь к разработчику! Программа может работать некорректно.");
+    EXPECT_TRUE(told[2].starts_with("x Torvenhall: Возникла непредвиденная ошибка № 61 : "));
+    EXPECT_TRUE(told[2].ends_with(": подробность. Программа может некорректно работать. "
+                                  "Обратитесь к разработчику!"));
 }
 
-TEST_F(Commands, ClosingAsksOnceAndNoEndsTheProgram)
-{
-    player.answers.push_back(Answer::No);
-    EnterRules(CloseProgram);
-    EXPECT_EQ(player.BoxTexts(), std::vector<std::string>{"Вопрос: Сохранить игру сейчас???"});
-    EXPECT_EQ(player.boxes[0].icon, Icon::Question);
-    EXPECT_TRUE(player.programEnded);
-}
-
-TEST_F(Commands, ClosingWithYesOffersToSaveAndEndsEvenIfThatIsCancelled)
+TEST_F(Commands, ClosingAsksOnceAndEndsEvenIfTheSavingIsCancelled)
 {
     player.answers.push_back(Answer::Yes);
     player.games.emplace_back();
     EnterRules(CloseProgram);
+    EXPECT_EQ(Told(), Texts{"? Вопрос: Сохранить игру сейчас???"});
     EXPECT_EQ(player.gameQuestions.size(), 1U);
     EXPECT_TRUE(player.programEnded);
-}
-
-TEST_F(Commands, AMissingReadmeIsReportedUnderTheLicencesName)
-{
-    ShowReadme();
-    ShowLicence();
-    EXPECT_EQ(player.BoxTexts(),
-              (std::vector<std::string>{"Ошибка: Файл справочной информации '" + Folder() +
-                                            "License.txt' не найден или ошибка доступа!",
-                                        "Ошибка: Файл лицензионного соглашения '" + Folder() +
-                                            "License.txt' не найден или ошибка доступа!"}));
-    EXPECT_EQ(player.boxes[0].icon, Icon::Critical);
-    EXPECT_TRUE(player.started.empty());
 }
 
 #ifndef _WIN32
@@ -114,77 +81,67 @@ private:
 
 TEST_F(OtherPrograms, TextsOpenInTheDesktopsEditorOrTheBoxNamesWhatIsMissing)
 {
-    std::ofstream(Folder() + "Readme.txt") << "?";
     ShowReadme();
-    EXPECT_EQ(player.BoxTexts(), std::vector<std::string>{"Ошибка: Файл 'xdg-open' не найден!!!"});
-    Install("kate");
+    ShowLicence();
+    const std::string missing =
+        "'" + Folder() + "License.txt' не найден или ошибка доступа!"; // the licence both times
+    EXPECT_EQ(Told(), (Texts{"x Ошибка: Файл справочной информации " + missing,
+                             "x Ошибка: Файл лицензионного соглашения " + missing}));
+    const std::string file = Folder() + "Readme.txt";
+    std::ofstream(file) << "?";
     ShowReadme();
-    Install("xdg-open");
-    ShowReadme();
-    EXPECT_EQ(player.started,
-              (std::vector<std::string>{Folder() + "kate " + Folder() + "Readme.txt",
-                                        Folder() + "xdg-open " + Folder() + "Readme.txt"}));
+    EXPECT_EQ(Told(), Texts{"x Ошибка: Файл 'xdg-open' не найден!!!"});
+    EXPECT_EQ(player.started, Texts{});
+    for (const char* editor : {"kate", "xdg-open"}) {
+        Install(editor);
+        ShowReadme();
+        EXPECT_EQ(player.started.back(), Folder() + editor + " " + file);
+    }
 }
 
 TEST_F(OtherPrograms, SystemInformationIsTheFirstToolFoundOrItsBox)
 {
     StartSysInfo();
-    EXPECT_EQ(
-        player.BoxTexts(),
-        std::vector<std::string>{"General Error: System Information Is Unavailable At This Time"});
+    EXPECT_EQ(Told(), Texts{"x General Error: System Information Is Unavailable At This Time"});
     Install("hardinfo");
     StartSysInfo();
-    EXPECT_EQ(player.started, std::vector<std::string>{Folder() + "hardinfo"});
+    EXPECT_EQ(player.started, Texts{Folder() + "hardinfo"});
 }
 #endif
 
 TEST_F(Commands, CheatCodesCountCaseAndBlanks)
 {
+    const auto type = [this](const std::optional<std::string>& code) {
+        player.inputs.push_back(code);
+        EnterRules(EnterCheat);
+    };
     struct {
         const char* code;
         Label label;
         const char* shown;
     } const codes[]{
-        {"QUOKKAFOX", Label::lblMoney, "$5015"},   {"ZEPHR", Label::lblHappy, "75%"},
-        {"MARLIN", Label::lblEat, "125%"},         {"WOMBAT", Label::lblHealth, "90%"},
-        {"TANGERINE", Label::lblEducation, "30%"}, {"PELICAN", Label::lblStatus, ""},
+        {"QUOKKAFOX", lblMoney, "$5015"},   {"ZEPHR", lblHappy, "75%"},
+        {"MARLIN", lblEat, "125%"},         {"WOMBAT", lblHealth, "90%"},
+        {"TANGERINE", lblEducation, "30%"}, {"PELICAN", lblStatus, ""},
     };
     for (const auto& row : codes) {
         Begin();
-        player.inputs.emplace_back(row.code);
-        EnterRules(EnterCheat);
+        type(row.code);
         EXPECT_EQ(LabelShown(row.label), row.shown) << row.code;
     }
     EXPECT_EQ(GameState.Education, 21) << "the rank comes from the intelligence";
 
-    Begin();
+    player.Forget();
     for (const char* code : {"quokkafox", " ZEPHR", "", "MARLIN "}) {
-        player.inputs.emplace_back(code);
-        EnterRules(EnterCheat);
+        type(code);
     }
-    player.inputs.emplace_back();
-    EnterRules(EnterCheat);
-    EXPECT_EQ(player.journal, std::vector<std::string>(5, "input Torvenhall 1.5: Введите чит:"));
-}
+    type({});
+    EXPECT_EQ(player.journal, Texts(5, "input Torvenhall 1.5: Введите чит:"));
 
-TEST_F(Commands, ACheatThatOverflowsIsReportedAndChangesNothing)
-{
     SetHealth(32767);
-    player.inputs.emplace_back("WOMBAT");
-    EnterRules(EnterCheat);
+    type("WOMBAT");
     EXPECT_EQ(GameState.Health, 32767);
-    EXPECT_EQ(player.boxes.size(), 1U);
-}
-
-TEST_F(Commands, TwoErrorsHaveTextsOfTheirOwn)
-{
-    ReportError(7);
-    ReportError(13);
-    EXPECT_EQ(player.boxes[0].text, "Системная ошибка: Недостаточно памяти для выполнения команды. "
-                                    "Закройте часть приложений и повторите попытку");
-    EXPECT_EQ(player.boxes[1].text,
-              "Ошибка приложения или системная ошибка: Несовпадение типов данных! Обратитесь к "
-              "разработчику! Программа может работать некорректно.");
+    EXPECT_EQ(ErrorTold(), error::Overflow);
 }
 
 } // namespace

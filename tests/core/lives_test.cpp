@@ -20,26 +20,24 @@ namespace torvenhall::test
 namespace
 {
 
-class Lives : public Life
+class Lives : public BegunLife
 {
 protected:
-    Lives()
-    {
-        Begin();
-        PlainDays();
-    }
+    Lives() { PlainDays(); }
 
-    void NextLifeIs(const char* name) { player.names.push_back(NewPlayer{name, 1}); }
-
-    void ExpectFreshLife(const char* name)
+    /// The next life, which NextLifeIs("Новый") announced, is untouched, and
+    /// so many boxes were shown until it began.
+    void ExpectFreshLife(std::size_t boxes = 1)
     {
-        EXPECT_EQ(GameState.PlayerName, name);
+        EXPECT_EQ(player.boxes.size(), boxes);
+        EXPECT_EQ(GameState.PlayerName, "Новый");
         EXPECT_EQ(GameState.Money, 15);
         EXPECT_EQ(GameState.Happy, 25);
         EXPECT_EQ(GameState.Health, 40);
         EXPECT_EQ(GameState.EatLevel, 75);
-        EXPECT_EQ(LabelShown(Label::lblMoney), "$15");
-        EXPECT_EQ(LabelShown(Label::lblTime), "1 января 2001 г. - 00:00");
+        EXPECT_EQ(LabelShown(lblMoney), "$15");
+        EXPECT_EQ(LabelShown(lblTime), "1 января 2001 г. - 00:00");
+        EXPECT_EQ(LabelShown(lblMessage), "");
         EXPECT_TRUE(player.names.empty());
     }
 
@@ -54,49 +52,27 @@ protected:
 
 TEST_F(Lives, AFatalPurchaseTakesNothingFromTheNextLife)
 {
-    SetHappy(-30);
-    SetMoney(300);
+    Set(-30, 40, 75, 300);
     player.open.insert(Window::frmHospital);
-    player.Forget();
     NextLifeIs("Новый");
     EnterRules([] { BuyService(Hospital, 4); });
-    EXPECT_EQ(player.boxes.size(), 1U);
     EXPECT_TRUE(player.open.empty());
-    ExpectFreshLife("Новый");
-}
-
-TEST_F(Lives, StarvationAtMidnightBeginsTheNextLifeOnItsFirstDay)
-{
-    JustBeforeMidnight();
-    SetEatLevel(-30);
-    player.Forget();
-    NextLifeIs("Новый");
-    Tick();
-    EXPECT_EQ(player.BoxTexts(),
-              std::vector<std::string>{
-                  "Желаю тебе быть большим и тольстым: Вы умерли голодной смертью!"});
-    ExpectFreshLife("Новый");
+    ExpectFreshLife();
 }
 
 TEST_F(Lives, TaxesThatKillLeaveNoTaxOnTheNextLife)
 {
     GameState.GameDate = std::chrono::year{2001} / 12 / 31;
     GameState.GameTime = {23, 30};
-    SetMoney(1000);
-    SetHappy(-60); // two days' wear leaves -70, the taxes take ten more
-    player.Forget();
+    Set(-60, 40, 75, 1000); // two days' wear leaves -70, the taxes take ten more
     NextLifeIs("Новый");
     Tick();
-    EXPECT_EQ(player.boxes.size(), 1U);
-    ExpectFreshLife("Новый");
-    EXPECT_EQ(LabelShown(Label::lblMessage), "");
+    ExpectFreshLife();
 }
 
 TEST_F(Lives, ADeathWhileAShopsRefusalIsOpenBuysNothingForTheNextLife)
 {
-    SetMoney(5);
-    SetEatLevel(-34);
-    player.Forget();
+    Set(25, 40, -34, 5);
     NextLifeIs("Новый");
     player.whileBoxOpen.push_back([&] {
         JustBeforeMidnight();
@@ -106,15 +82,12 @@ TEST_F(Lives, ADeathWhileAShopsRefusalIsOpenBuysNothingForTheNextLife)
         BuyService(Entertainment, 0);
         SetMoney(99999); // what the dead person's handler would do next
     });
-    EXPECT_EQ(player.boxes.size(), 2U) << "the refusal and the death";
-    ExpectFreshLife("Новый");
+    ExpectFreshLife(2); // the refusal and the death
 }
 
 TEST_F(Lives, CancellingTheNameAfterADeathInAShopEndsTheProgramAtOnce)
 {
-    SetHappy(-30);
-    SetMoney(300);
-    player.Forget();
+    Set(-30, 40, 75, 300);
     player.names.emplace_back();
     EnterRules([] { BuyService(Hospital, 4); });
     EXPECT_TRUE(player.programEnded);
@@ -122,34 +95,22 @@ TEST_F(Lives, CancellingTheNameAfterADeathInAShopEndsTheProgramAtOnce)
     EXPECT_EQ(player.journal.back(), "end program");
 }
 
-TEST_F(Lives, TheDeathBoxIsTheOnlyOneAndStopsTheClock)
+TEST_F(Lives, TheDeathBoxIsTheOnlyOneAndStopsTheClockWhetherATickOrAClickKills)
 {
-    JustBeforeMidnight();
-    SetEatLevel(-34);
-    player.Forget();
-    NextLifeIs("Новый");
-    player.whileBoxOpen.push_back([&] {
-        SetHealth(-500); // a second death of the same person
-        Tick(10);
-        EXPECT_EQ(TimeText(GameState.GameTime), "00:00");
-    });
-    Tick();
-    EXPECT_EQ(player.boxes.size(), 1U);
-    ExpectFreshLife("Новый");
-}
-
-TEST_F(Lives, ADeathByAClickStopsTheClockTooAndASecondOneIsSilent)
-{
-    player.Forget();
-    NextLifeIs("Новый");
-    player.whileBoxOpen.push_back([&] {
-        Tick(10);
-        EXPECT_EQ(TimeText(GameState.GameTime), "00:00");
-        SetHealth(-500);
-    });
-    EnterRules([] { SetHappy(-75); });
-    EXPECT_EQ(player.boxes.size(), 1U);
-    ExpectFreshLife("Новый");
+    for (const bool byTick : {true, false}) {
+        Begin();
+        JustBeforeMidnight();
+        SetEatLevel(-34);
+        NextLifeIs("Новый");
+        player.whileBoxOpen.push_back([&] {
+            const TimeOfDay stopped = GameState.GameTime;
+            SetHealth(-500); // a second death of the same person
+            Tick(10);
+            EXPECT_EQ(TimeText(GameState.GameTime), TimeText(stopped));
+        });
+        byTick ? Tick() : EnterRules([] { SetEatLevel(-35); });
+        ExpectFreshLife();
+    }
 }
 
 TEST_F(Lives, NobodyDiesUnderTheWinnersBox)
@@ -157,15 +118,14 @@ TEST_F(Lives, NobodyDiesUnderTheWinnersBox)
     GameState.CurrWork = 12;
     GameState.HardCPU = 59;
     SetMoney(10001);
-    player.Forget();
     NextLifeIs("Новый");
     player.whileBoxOpen.push_back([&] {
         SetHealth(-500);
         Tick(10);
     });
     Tick();
-    EXPECT_EQ(player.BoxTexts(), std::vector<std::string>{"Наконец-то: Вы прошли всю игру"});
-    ExpectFreshLife("Новый");
+    EXPECT_EQ(player.boxes.at(0).title, "Наконец-то");
+    ExpectFreshLife();
 }
 
 TEST_F(Lives, TheClockOnlyShowsItselfWhileANewGameAsksForAName)
@@ -174,18 +134,16 @@ TEST_F(Lives, TheClockOnlyShowsItselfWhileANewGameAsksForAName)
     NextLifeIs("Новый");
     player.whileDialogOpen.push_back([&] {
         Tick(200);
-        EXPECT_EQ(LabelShown(Label::lblTime), "5 мая 2003 г. - 00:00") << "shown, not advanced";
+        EXPECT_EQ(LabelShown(lblTime), "5 мая 2003 г. - 00:00") << "shown, not advanced";
         EXPECT_NO_THROW(SetHealth(-500)) << "nobody lives who could die";
     });
     EnterRules(NewGame);
-    EXPECT_TRUE(player.boxes.empty());
-    ExpectFreshLife("Новый");
+    ExpectFreshLife(0);
 }
 
 TEST_F(Lives, ACodeTypedForADeadPersonDoesNotHelpTheNextOne)
 {
     SetHealth(-49);
-    player.Forget();
     NextLifeIs("Новый");
     player.inputs.emplace_back("QUOKKAFOX");
     player.whileDialogOpen.push_back([&] {
@@ -195,19 +153,7 @@ TEST_F(Lives, ACodeTypedForADeadPersonDoesNotHelpTheNextOne)
     // The box that is open belongs to the old life, the dialog to the new one.
     player.whileDialogOpen.emplace_back();
     EnterRules(EnterCheat);
-    ExpectFreshLife("Новый");
-}
-
-TEST_F(Lives, ATypedMessageOfTheOldLifeIsNotFinishedInTheNewOne)
-{
-    NextLifeIs("Новый");
-    player.duringWait.push_back([] { EnterRules(NewGame); });
-    EnterRules([] {
-        ShowMessage("Сообщение");
-        SetMoney(1);
-    });
-    ExpectFreshLife("Новый");
-    EXPECT_EQ(LabelShown(Label::lblMessage), "");
+    ExpectFreshLife();
 }
 
 TEST_F(Lives, ANewGameDuringTheDaysMessageAbandonsTheOldDay)
@@ -215,11 +161,10 @@ TEST_F(Lives, ANewGameDuringTheDaysMessageAbandonsTheOldDay)
     JustBeforeMidnight();
     GameState.WifeFound = GameState.Married = True;
     dice.values = {DrawOf(32, 50)};
-    player.Forget();
     NextLifeIs("Новый");
     player.duringWait.push_back([] { EnterRules(NewGame); });
     Tick();
-    ExpectFreshLife("Новый");
+    ExpectFreshLife(0);
     EXPECT_FALSE(Running::Now(Running::What::Day));
 }
 
@@ -228,7 +173,6 @@ TEST_F(Lives, TimeGoesOnDuringAMessageButNoSecondDayBegins)
     JustBeforeMidnight();
     GameState.WifeFound = GameState.Married = True;
     SetMoney(1000);
-    SetEatLevel(75);
     EnterRules(DialInternet);
     dice.values = {DrawOf(29, 50)};
     player.duringWait.push_back([&] {
@@ -240,7 +184,7 @@ TEST_F(Lives, TimeGoesOnDuringAMessageButNoSecondDayBegins)
         EXPECT_EQ(DateText(GameState.GameDate), "14.06.2001");
     });
     Tick();
-    EXPECT_EQ(LabelShown(Label::lblTime), "15 июня 2001 г. - 23:30");
+    EXPECT_EQ(LabelShown(lblTime), "15 июня 2001 г. - 23:30");
     EXPECT_EQ(GameState.Money, 990);
     EXPECT_EQ(GameState.EatLevel, 70);
     EXPECT_EQ(player.messages.size(), 1U);
@@ -289,11 +233,10 @@ TEST_F(Lives, ADeathInTheVirusWindowAbandonsTheDay)
     JustBeforeMidnight();
     GameState.SoftOS = 1;
     dice.values = {DrawOf(21, 50)};
-    player.Forget();
     NextLifeIs("Новый");
     player.whileVirusOpen.push_back([] { EnterRules([] { SetHealth(-50); }); });
     Tick();
-    ExpectFreshLife("Новый");
+    ExpectFreshLife();
 }
 
 TEST_F(Lives, AnsweringNoEndsTheProgramAndUnwindsEverything)
@@ -313,7 +256,6 @@ TEST_F(Lives, AnsweringNoEndsTheProgramAndUnwindsEverything)
 TEST_F(Lives, ADeathUnderTheClosingQuestionKeepsTheProgramRunning)
 {
     SetHealth(-49);
-    player.Forget();
     NextLifeIs("Новый");
     player.answers.push_back(Answer::No);
     player.whileBoxOpen.push_back([&] {
@@ -322,7 +264,7 @@ TEST_F(Lives, ADeathUnderTheClosingQuestionKeepsTheProgramRunning)
     });
     EnterRules(CloseProgram);
     EXPECT_FALSE(player.programEnded);
-    ExpectFreshLife("Новый");
+    ExpectFreshLife(2); // the question and the death
 }
 
 } // namespace

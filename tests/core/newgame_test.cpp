@@ -2,7 +2,6 @@
 
 #include "core/basGame.h"
 #include "core/entry.h"
-#include "core/life.h"
 #include "core/outside.h"
 #include "equipment/basEquipment.h"
 #include "support/life.h"
@@ -12,45 +11,22 @@ namespace torvenhall::test
 namespace
 {
 
-class NewLife : public Life
-{
-protected:
-    void ExpectStartingValues()
-    {
-        EXPECT_EQ(GameState.Money, 15);
-        EXPECT_EQ(GameState.Happy, 25);
-        EXPECT_EQ(GameState.Health, 40);
-        EXPECT_EQ(GameState.EatLevel, 75);
-        EXPECT_EQ(GameState.GameSpeed, 30);
-        EXPECT_EQ(GameState.CurrWork, 0);
-        EXPECT_EQ(GameState.WorkPay, 0);
-        EXPECT_EQ(GameState.WorkTitle, "Безработный");
-        EXPECT_EQ(GameState.Education, 1);
-        EXPECT_EQ(GameState.Intelligence, 20);
-        EXPECT_EQ(GameState.SoftSize, 0);
-        EXPECT_EQ(HardwareScore(), 0);
-        EXPECT_EQ(GameState.WifeFound, False);
-        EXPECT_EQ(GameState.Sons + GameState.Daughters + GameState.Alimony, 0);
-        EXPECT_EQ(GameState.GameDate, FirstDay);
-        EXPECT_EQ(GameState.GameTime, TimeOfDay{});
-    }
-};
+using NewLife = Life;
 
 TEST_F(NewLife, ABeginnerHasTheStartingValuesInStateAndWindow)
 {
     Begin(0, "<b>");
-    ExpectStartingValues();
     EXPECT_EQ(GameState.WinMoney, 30000);
     EXPECT_EQ(player.title, "Marshend Torvenhall 1.5 - <b>");
     EXPECT_TRUE(player.mainWindowShown);
     const std::pair<Label, const char*> shown[]{
-        {Label::lblMoney, "$15"},       {Label::lblHappy, "25%"},
-        {Label::lblEat, "75%"},         {Label::lblHealth, "40%"},
-        {Label::lblEducation, "20%"},   {Label::lblStatus, "BEGIN"},
-        {Label::lblFamily, "NO WIFE"},  {Label::lblCurrWork, "Работа: Безработный ($0/день)"},
-        {Label::lblOther, "0 Мб"},      {Label::lblTime, "1 января 2001 г. - 00:00"},
-        {Label::lblhard0, "Нет вооще"}, {Label::lblhard8, "Нет вооще"},
-        {Label::lblOs, "Нет вооще"},    {Label::lblGames, "Нет вооще"},
+        {lblMoney, "$15"},       {lblHappy, "25%"},
+        {lblEat, "75%"},         {lblHealth, "40%"},
+        {lblEducation, "20%"},   {lblStatus, "BEGIN"},
+        {lblFamily, "NO WIFE"},  {lblCurrWork, "Работа: Безработный ($0/день)"},
+        {lblOther, "0 Мб"},      {lblTime, "1 января 2001 г. - 00:00"},
+        {lblhard0, "Нет вооще"}, {lblhard8, "Нет вооще"},
+        {lblOs, "Нет вооще"},    {lblGames, "Нет вооще"},
     };
     for (const auto& [label, text] : shown) {
         EXPECT_EQ(LabelShown(label), text) << LabelName(label);
@@ -59,9 +35,9 @@ TEST_F(NewLife, ABeginnerHasTheStartingValuesInStateAndWindow)
 
 TEST_F(NewLife, TheSettersRunInTheGamesOrder)
 {
-    player.names.push_back(NewPlayer{"Иван", 1});
+    NextLifeIs("Иван");
     EnterRules(NewGame);
-    const std::vector<std::string> order{
+    const Texts order{
         "close all",
         "name dialog",
         "lblMoney=$15",
@@ -79,30 +55,23 @@ TEST_F(NewLife, TheSettersRunInTheGamesOrder)
         "lblMoney=$15",
         "lblhard0=Нет вооще",
     };
-    ASSERT_GE(player.journal.size(), order.size());
-    EXPECT_EQ(std::vector(player.journal.begin(), player.journal.begin() + 16), order);
-    EXPECT_EQ(player.journal.back(), "show main window");
+    ASSERT_GE(player.journal.size(), order.size() + 2);
+    EXPECT_EQ(Texts(player.journal.begin(), player.journal.begin() + 16), order);
+    EXPECT_EQ(Texts(player.journal.end() - 2, player.journal.end()),
+              (Texts{"title Marshend Torvenhall 1.5 - Иван", "show main window"}));
 }
 
 TEST_F(NewLife, NamesThatNobodyTypedAreAskedForAgainWhateverTheirCase)
 {
-    for (const char* refused : {"Введите Ваше имя", "Я: введите ВАШЕ имя!", ""}) {
-        player.names.push_back(NewPlayer{refused, 2});
+    for (const char* name : {"Введите Ваше имя", "Я: введите ВАШЕ имя!", "", "   "}) {
+        player.names.push_back(NewPlayer{name, 2});
     }
-    player.names.push_back(NewPlayer{"   ", 2});
     EnterRules(NewGame);
-    EXPECT_EQ(player.BoxTexts(), std::vector<std::string>(3, "Внимание: Введите корректное имя"));
-    EXPECT_EQ(player.boxes[0].icon, Icon::Exclamation);
-    EXPECT_EQ(player.nameQuestions[1].level, 2) << "the selection stays between attempts";
-    EXPECT_EQ(GameState.PlayerName, "   ") << "a name of blanks is a name";
-}
-
-TEST_F(NewLife, TheDialogStartsWithItsPlaceholderOnTheNormalLevel)
-{
-    player.names.push_back(NewPlayer{"Иван", 0});
-    EnterRules(NewGame);
+    EXPECT_EQ(Told(), Texts(3, "! Внимание: Введите корректное имя"));
     EXPECT_EQ(player.nameQuestions.at(0).name, "Введите Ваше имя");
     EXPECT_EQ(player.nameQuestions.at(0).level, 1);
+    EXPECT_EQ(player.nameQuestions.at(1).level, 2) << "the selection stays between attempts";
+    EXPECT_EQ(GameState.PlayerName, "   ") << "a name of blanks is a name";
 }
 
 TEST_F(NewLife, CancellingTheNameEndsTheProgramWithoutAQuestion)
@@ -110,8 +79,7 @@ TEST_F(NewLife, CancellingTheNameEndsTheProgramWithoutAQuestion)
     player.names.emplace_back();
     EnterRules(NewGame);
     EXPECT_TRUE(player.programEnded);
-    EXPECT_TRUE(player.boxes.empty());
-    EXPECT_FALSE(player.mainWindowShown);
+    EXPECT_EQ(player.journal, (Texts{"close all", "name dialog", "end program"}));
 
     player.Forget();
     EnterRules([] { SetMoney(1000); });
@@ -124,57 +92,48 @@ TEST_F(NewLife, ANewGameReplacesEverythingButTheAttendance)
     Begin();
     GameState.AttendCourses = GameState.AttendSchool = True;
     GameState.WifeFound = GameState.Married = True;
-    GameState.Sons = 2;
+    GameState.Sons = GameState.Daughters = 2;
     GameState.Alimony = 100;
-    GameState.SoftOS = GameState.SoftGames = 4;
-    GameState.HardCPU = GameState.HardPrinter = 3;
-    SetMoney(-500);
-    GameState.GameSpeed = 60;
-    Begin();
-    ExpectStartingValues();
-    EXPECT_EQ(GameState.SoftOS + GameState.SoftGames, 0);
-    EXPECT_EQ(GameState.AttendCourses, True);
-    EXPECT_EQ(GameState.AttendSchool, True);
-}
-
-TEST_F(NewLife, WindowsAreClosedWhileRestartingIsSet)
-{
-    Begin();
-    player.open.insert(Window::frmHard);
-    player.sawRestarting = false;
-    Begin();
-    EXPECT_TRUE(player.open.empty());
-    EXPECT_TRUE(player.sawRestarting);
-    EXPECT_EQ(GameState.Restarting, False);
-}
-
-TEST_F(NewLife, TheTitleIsThereBeforeTheWindow)
-{
-    player.names.push_back(NewPlayer{"Иван", 1});
-    EnterRules(NewGame);
-    ASSERT_GE(player.journal.size(), 2U);
-    EXPECT_EQ(player.journal[player.journal.size() - 2], "title Marshend Torvenhall 1.5 - Иван");
-}
-
-TEST_F(NewLife, EverySoftwareSlotIsEmptied)
-{
-    Begin();
+    GameState.SoftSize = 5;
     for (int category = 0; category < 6; ++category) {
         SoftwareField(category) = 2;
     }
+    GameState.HardCPU = GameState.HardPrinter = 3;
+    GameState.GameSpeed = 60;
+    GameState.CurrWork = GameState.WorkPay = 3;
+    GameState.GameDate = std::chrono::year{2003} / 5 / 5;
+    GameState.GameTime = {5, 5};
+    Set(90, 90, 90, -500);
+    SetEducation(5);
+    SetIntelligence(90);
+    ShowLabel(lblFamily, "PRST:2:1");
+    player.open.insert(Window::frmHard);
+    player.sawRestarting = false;
+
     Begin();
+    EXPECT_EQ((std::vector<Int16>{GameState.Happy, GameState.Health, GameState.EatLevel,
+                                  GameState.GameSpeed, GameState.CurrWork, GameState.WorkPay,
+                                  GameState.Education, GameState.Intelligence}),
+              (std::vector<Int16>{25, 40, 75, 30, 0, 0, 1, 20}));
+    EXPECT_EQ(GameState.Money, 15);
+    EXPECT_EQ(GameState.WorkTitle, "Безработный");
+    EXPECT_EQ(GameState.SoftSize, 0);
+    EXPECT_EQ(HardwareScore(), 0);
     for (int category = 0; category < 6; ++category) {
         EXPECT_EQ(SoftwareField(category), 0) << category;
     }
-}
-
-TEST_F(NewLife, AnImpossibleFamilyOfTheOldLifeLeavesNothingInTheLabel)
-{
-    Begin();
-    ShowLabel(Label::lblFamily, "PRST:2:1");
-    Begin();
-    EXPECT_EQ(LabelText(Label::lblFamily), "NO WIFE");
-    EXPECT_EQ(LabelText(Label::lblMessage), "");
+    EXPECT_EQ(GameState.WifeFound, False);
+    EXPECT_EQ(GameState.Married, False);
+    EXPECT_EQ(GameState.Sons + GameState.Daughters + GameState.Alimony, 0);
+    EXPECT_EQ(GameState.GameDate, FirstDay);
+    EXPECT_EQ(GameState.GameTime, TimeOfDay{});
+    EXPECT_EQ(GameState.AttendCourses, True);
+    EXPECT_EQ(GameState.AttendSchool, True);
+    EXPECT_EQ(LabelText(lblFamily), "NO WIFE");
+    EXPECT_EQ(LabelText(lblMessage), "");
+    EXPECT_TRUE(player.open.empty());
+    EXPECT_TRUE(player.sawRestarting);
+    EXPECT_EQ(GameState.Restarting, False);
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <set>
 
 namespace torvenhall::test
@@ -16,42 +15,30 @@ TEST(Random, ValuesLieBelowOneAndSpreadEvenly)
     int lower = 0;
     for (int i = 0; i < 100000; ++i) {
         const float value = dice.Rnd();
-        ASSERT_GE(value, 0.0F);
-        ASSERT_LT(value, 1.0F);
+        ASSERT_TRUE(value >= 0.0F && value < 1.0F) << value;
         lower += value < 0.5F ? 1 : 0;
     }
     EXPECT_NEAR(lower, 50000, 1000);
 }
 
-TEST(Random, ReseedingWithTheSameValueNeverRepeatsASequence)
+TEST(Random, ReseedingNeverRepeatsASequenceAndTellsSmallFractionsApart)
 {
-    RandomDice dice(1);
-    std::set<float> firstDraws;
+    RandomDice kept(1);
+    std::set<float> afterSame, afterFractions;
     for (int i = 0; i < 200; ++i) {
-        dice.Randomize(121);
-        firstDraws.insert(dice.Rnd());
+        kept.Randomize(121);
+        afterSame.insert(kept.Rnd());
+        RandomDice fresh(1);
+        fresh.Randomize(0.001 * i);
+        afterFractions.insert(fresh.Rnd());
     }
-    EXPECT_GT(firstDraws.size(), 190U);
-}
+    EXPECT_GT(afterSame.size(), 190U);
+    EXPECT_GT(afterFractions.size(), 190U);
 
-TEST(Random, SmallFractionsReseedDifferently)
-{
-    std::set<float> firstDraws;
-    for (int i = 0; i < 100; ++i) {
-        RandomDice dice(1);
-        dice.Randomize(0.001 * i);
-        firstDraws.insert(dice.Rnd());
-    }
-    EXPECT_GT(firstDraws.size(), 95U);
-}
-
-TEST(Random, TheSystemTimerReseedsToo)
-{
-    RandomDice once(1);
-    RandomDice again(1);
+    RandomDice once(1), again(1);
     once.Randomize();
     again.Randomize();
-    EXPECT_NE(once.Rnd(), again.Rnd());
+    EXPECT_NE(once.Rnd(), again.Rnd()) << "the system timer reseeds too";
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "core/basGame.h"
-#include "core/entry.h"
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
 #include "support/life.h"
@@ -13,35 +12,32 @@ namespace torvenhall::test
 namespace
 {
 
-class Shops : public Life
-{
-protected:
-    Shops() { Begin(); }
-};
+using Shops = BegunLife;
 
-TEST_F(Shops, ExactlyThePriceBuysAndOneDollarLessIsRefused)
+TEST_F(Shops, ExactlyThePriceBuysTheNextPartAndNothingIsTradedIn)
 {
+    EXPECT_EQ(HardwareOffer(0).caption, "Процессор - 486 DX2-66 MHz - $25");
     SetMoney(24);
     BuyNextHardware(0);
-    ASSERT_EQ(player.BoxTexts(),
-              std::vector<std::string>{"Я тоже много хочу!!!: У вас недостаточно денег на покупку "
-                                       "486 DX2-66 MHz за $25"});
-    EXPECT_EQ(player.boxes[0].icon, Icon::Information);
+    EXPECT_EQ(Told(), Texts{"i Я тоже много хочу!!!: У вас недостаточно денег на покупку 486 "
+                            "DX2-66 MHz за $25"});
     EXPECT_EQ(GameState.HardCPU, 0);
     EXPECT_EQ(GameState.Money, 24);
-
-    SetMoney(25);
-    BuyNextHardware(0);
-    EXPECT_EQ(GameState.Money, 0);
-    EXPECT_EQ(GameState.HardCPU, 1);
-    EXPECT_EQ(LabelShown(Label::lblhard0), "486 DX2-66 MHz");
-
-    SetMoney(60);
-    BuyNextHardware(0);
-    EXPECT_EQ(GameState.Money, 0) << "no trade-in";
+    const std::pair<int, const char*> parts[]{{25, "486 DX2-66 MHz"}, {60, "Pentium 133 MHz"}};
+    for (const auto& [price, name] : parts) {
+        SetMoney(price);
+        BuyNextHardware(0);
+        EXPECT_EQ(GameState.Money, 0);
+        EXPECT_EQ(LabelShown(lblhard0), name);
+    }
+    GameState.HardCPU = 10;
+    EXPECT_EQ(HardwareOffer(0).caption, "Процессор - Intel Pentium 4 1500 MHz - $620");
+    EXPECT_FALSE(HardwareOffer(0).available);
+    GameState.HardCPU = 32767;
+    EXPECT_NO_THROW(HardwareOffer(0)) << "an index from an edited file";
 }
 
-TEST_F(Shops, EverySlotWritesItsOwnFieldAndLabel)
+TEST_F(Shops, EverySlotWritesItsOwnFieldAndLabelAndCountsInTheScore)
 {
     for (int category = 0; category < HardwareCategories; ++category) {
         InstallHardware(category, category % 4 + 1, false);
@@ -52,22 +48,14 @@ TEST_F(Shops, EverySlotWritesItsOwnFieldAndLabel)
                             state.HardSound, state.HardScanner, state.HardPrinter};
     for (int category = 0; category < HardwareCategories; ++category) {
         EXPECT_EQ(fields[static_cast<std::size_t>(category)], category % 4 + 1);
-        const auto label = static_cast<Label>(static_cast<int>(Label::lblhard0) + category);
+        const auto label = static_cast<Label>(static_cast<int>(lblhard0) + category);
         EXPECT_EQ(LabelShown(label), GetHardwareName(category, category % 4 + 1));
     }
     EXPECT_EQ(GameState.Money, 15) << "nothing is paid without payment";
     InstallHardware(9, 1, false);
     EXPECT_EQ(HardwareScore(), 1 + 2 + 3 + 4 + 1 + 2 + 3 + 4 + 1);
-}
-
-TEST_F(Shops, TheHardwareButtonOffersTheNextPartAndEndsWithTheLast)
-{
-    EXPECT_EQ(HardwareOffer(0).caption, "Процессор - 486 DX2-66 MHz - $25");
-    GameState.HardCPU = 10;
-    EXPECT_EQ(HardwareOffer(0).caption, "Процессор - Intel Pentium 4 1500 MHz - $620");
-    EXPECT_FALSE(HardwareOffer(0).available);
-    GameState.HardCPU = 32767;
-    EXPECT_NO_THROW(HardwareOffer(0)) << "an index from an edited file";
+    GameState.HardCPU = GameState.HardRAM = 20000;
+    EXPECT_THROW(HardwareScore(), RuntimeError) << "an overflow is an error and not a wrap";
 }
 
 /// The least computer on which an item installs, in the order of the checks:
@@ -78,37 +66,16 @@ struct Least {
     const char* refusal;
 };
 
-const char* const Millenium =
-    "Слабая машинка!!!! Нужен Celeron 300A, 4.8 Gb IDE, 32 Mb RAM, S3 Trio 64V+";
-
+// clang-format off
 const Least Requirements[]{
-    {0,
-     1,
-     {1, 1, 1, 1, 0},
-     "Слабая машинка!!!! Нужен 486 DX2-66, 850 Mb IDE, 8 Mb RAM, S3 Trio 64V+"},
-    {0,
-     2,
-     {2, 1, 1, 1, 0},
-     "Слабая машинка!!!! Нужен Pentium 133, 850 Mb IDE, 8 Mb RAM, S3 Trio 64V+"},
-    {0,
-     3,
-     {2, 2, 2, 1, 0},
-     "Слабая машинка!!!! Нужен Pentium 133, 1.3 Gb IDE, 16 Mb RAM, S3 Trio 64V+"},
-    {0, 4, {3, 3, 2, 1, 0}, Millenium},
-    {0, 5, {3, 3, 2, 1, 0}, Millenium},
-    {0,
-     6,
-     {4, 3, 3, 2, 0},
-     "Слабая машинка!!!! Нужен Intel Pentium II 350 MHz MMX,10 Gb IDE, 64 Mb RAM, nVidia Riva 128"},
-    {0,
-     7,
-     {3, 3, 2, 1, 0},
-     "Слабая машинка!!!! Нужен Celeron 300A, 10 Gb IDE, 32 Mb RAM, S3 Trio 64V+"},
-    {0,
-     8,
-     {5, 4, 3, 3, 0},
-     "Слабая машинка!!!! Нужен Intel Pentium III 650 MHz SSE2, 32 Gb EIDE, 64 Mb RAM, nVidia Riva "
-     "TNT"},
+    {0, 1, {1, 1, 1, 1, 0}, "Слабая машинка!!!! Нужен 486 DX2-66, 850 Mb IDE, 8 Mb RAM, S3 Trio 64V+"},
+    {0, 2, {2, 1, 1, 1, 0}, "Слабая машинка!!!! Нужен Pentium 133, 850 Mb IDE, 8 Mb RAM, S3 Trio 64V+"},
+    {0, 3, {2, 2, 2, 1, 0}, "Слабая машинка!!!! Нужен Pentium 133, 1.3 Gb IDE, 16 Mb RAM, S3 Trio 64V+"},
+    {0, 4, {3, 3, 2, 1, 0}, "Слабая машинка!!!! Нужен Celeron 300A, 4.8 Gb IDE, 32 Mb RAM, S3 Trio 64V+"},
+    {0, 5, {3, 3, 2, 1, 0}, "Слабая машинка!!!! Нужен Celeron 300A, 4.8 Gb IDE, 32 Mb RAM, S3 Trio 64V+"},
+    {0, 6, {4, 3, 3, 2, 0}, "Слабая машинка!!!! Нужен Intel Pentium II 350 MHz MMX,10 Gb IDE, 64 Mb RAM, nVidia Riva 128"},
+    {0, 7, {3, 3, 2, 1, 0}, "Слабая машинка!!!! Нужен Celeron 300A, 10 Gb IDE, 32 Mb RAM, S3 Trio 64V+"},
+    {0, 8, {5, 4, 3, 3, 0}, "Слабая машинка!!!! Нужен Intel Pentium III 650 MHz SSE2, 32 Gb EIDE, 64 Mb RAM, nVidia Riva TNT"},
     {1, 1, {0, 0, 0, 0, 1}, "Установи Windows 3.1!!!!"},
     {1, 2, {0, 0, 0, 0, 2}, "Установи Windows 95!!!!"},
     {1, 3, {0, 0, 0, 0, 6}, "Установи Windows 2000!!!!"},
@@ -134,6 +101,7 @@ const Least Requirements[]{
     {5, 5, {0, 0, 0, 0, 3}, "Установи Windows 98"},
     {5, 6, {0, 0, 0, 0, 3}, "Установи Windows 98"},
 };
+// clang-format on
 
 constexpr Int16 GameStateRecord::*RequirementFields[]{
     &GameStateRecord::HardCPU, &GameStateRecord::HardHDD, &GameStateRecord::HardRAM,
@@ -143,66 +111,49 @@ TEST_F(Shops, EverySoftwareItemInstallsOnItsLeastComputerAndOnNoLesserOne)
 {
     for (const Least& row : Requirements) {
         SCOPED_TRACE(std::string(GetSoftwareName(row.category, row.index)));
-        const auto build = [&] {
-            for (int i = 0; i < 5; ++i) {
-                GameState.*RequirementFields[i] = row.parts[i];
-            }
-        };
-        build();
-        player.Forget();
-        EXPECT_TRUE(InstallSoftware(row.category, row.index));
-        EXPECT_TRUE(player.boxes.empty());
-
-        for (int i = 0; i < 5; ++i) {
-            if (row.parts[i] == 0) {
+        for (int lacking = -1; lacking < 5; ++lacking) {
+            if (lacking >= 0 && row.parts[lacking] == 0) {
                 continue;
             }
-            build();
-            GameState.*RequirementFields[i] = row.parts[i] - 1;
+            for (int i = 0; i < 5; ++i) {
+                GameState.*RequirementFields[i] = row.parts[i] - (i == lacking ? 1 : 0);
+            }
             const Int16 before = SoftwareField(row.category);
-            player.Forget();
-            EXPECT_FALSE(InstallSoftware(row.category, row.index));
-            EXPECT_EQ(player.BoxTexts(), std::vector<std::string>{
-                                             std::string("Ну у Вас и запросы...: ") + row.refusal});
-            EXPECT_EQ(SoftwareField(row.category), before);
+            EXPECT_EQ(InstallSoftware(row.category, row.index), lacking < 0);
+            if (lacking >= 0) {
+                EXPECT_EQ(SoftwareField(row.category), before);
+            }
+            EXPECT_EQ(Told(), lacking < 0
+                                  ? Texts{}
+                                  : Texts{std::string("i Ну у Вас и запросы...: ") + row.refusal});
         }
     }
 }
 
-TEST_F(Shops, AssemblerWantsUnixAndNothingElse)
+TEST_F(Shops, AssemblerWantsUnixAndNothingElseAndWhatIsNotInTheListIsSilentlyRefused)
 {
     for (int system = 0; system <= 9; ++system) {
         GameState.SoftOS = system;
         EXPECT_EQ(InstallSoftware(2, 5), system == 8) << system;
     }
+    Told();
+    GameState.SoftOS = 8;
+    for (const auto& [category, index] : {std::pair{0, 9}, {6, 1}, {0, -1}}) {
+        EXPECT_FALSE(InstallSoftware(category, index));
+    }
+    EXPECT_EQ(Told(), Texts{});
+    EXPECT_EQ(GameState.SoftOS, 8);
+    InstallHardware(0, 0, false);
+    EXPECT_EQ(GameState.SoftOS, 8) << "lost hardware leaves the software in place";
 }
 
 TEST_F(Shops, TheFirstGameIsShownButStoredAsTheSecond)
 {
     GameState.SoftOS = 2;
-    EXPECT_EQ(SoftwareOffer(5).caption, "Игра - DOOM-II");
     InstallNextSoftware(5);
-    EXPECT_EQ(LabelShown(Label::lblGames), "DOOM-II");
+    EXPECT_EQ(LabelShown(lblGames), "DOOM-II");
     EXPECT_EQ(GameState.SoftGames, 2);
     EXPECT_EQ(SoftwareOffer(5).caption, "Игра - Quake I");
-}
-
-TEST_F(Shops, AnIndexOutsideTheListIsSilentlyRefused)
-{
-    GameState.SoftOS = 8;
-    EXPECT_FALSE(InstallSoftware(0, 9));
-    EXPECT_FALSE(InstallSoftware(6, 1));
-    EXPECT_FALSE(InstallSoftware(0, -1));
-    EXPECT_TRUE(player.boxes.empty());
-    EXPECT_EQ(GameState.SoftOS, 8);
-}
-
-TEST_F(Shops, RemovedHardwareLeavesTheSoftwareInPlace)
-{
-    GameState.SoftOS = 3;
-    InstallHardware(0, 0, false);
-    EXPECT_EQ(GameState.SoftOS, 3);
-    EXPECT_EQ(LabelShown(Label::lblhard0), "Нет вооще");
 }
 
 TEST_F(Shops, TheSoftwareButtonsHaveTheirPrefixesAndEndWithTheLastItem)
@@ -221,12 +172,6 @@ TEST_F(Shops, TheSoftwareButtonsHaveTheirPrefixesAndEndWithTheLastItem)
         EXPECT_EQ(SoftwareOffer(category).caption, last[category]);
         EXPECT_FALSE(SoftwareOffer(category).available);
     }
-}
-
-TEST_F(Shops, AScoreThatOverflowsIsAnErrorAndNotAWrap)
-{
-    GameState.HardCPU = GameState.HardRAM = 20000;
-    EXPECT_THROW(HardwareScore(), RuntimeError);
 }
 
 } // namespace

@@ -82,7 +82,8 @@ TEST_F(Keys, OtherStrokesDoNothing)
             Stroke(button, key, held);
         }
         Stroke(button, key, {}, true);
-        menu.popup(Main().mapToGlobal(QPoint(5, 25)));
+        // Opened by its bar, a menu hands keys that it does not use on.
+        Main().menuBar()->setActiveAction(Main().menuBar()->actions().first());
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&menu));
         Stroke(menu, key);
         menu.close();

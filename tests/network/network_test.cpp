@@ -1,6 +1,7 @@
 #include "network/network.h"
 
 #include "core/basGame.h"
+#include "core/commands.h"
 #include "core/entry.h"
 #include "core/life.h"
 #include "equipment/basEquipment.h"
@@ -12,11 +13,9 @@ namespace torvenhall::test
 namespace
 {
 
-class Lines : public Life
+class Lines : public BegunLife
 {
 protected:
-    Lines() { Begin(); }
-
     /// Both lines as the window shows them, and which buttons work.
     static std::string Shown()
     {
@@ -40,14 +39,12 @@ protected:
         began = player.seconds;
     }
 
-    /// Everything that another life must find as it was.
-    void DieInTheNextWait()
+    /// The player enters the rules with this during the next pause.
+    void InTheNextPause(void (*handler)())
     {
-        player.names.push_back(NewPlayer{"Пётр", 1});
-        player.duringWait.emplace_back([] { EnterRules([] { SetHealth(-50); }); });
+        player.duringWait.emplace_back([handler] { EnterRules(handler); });
     }
 
-    using Texts = std::vector<std::string>;
     Texts pauses;
     double began = 0;
 };
@@ -86,7 +83,7 @@ TEST_F(Lines, DiallingTheBoardHasNoVerifyingStepAndCostsNothing)
     EXPECT_EQ(GameState.Money, 15);
 }
 
-TEST_F(Lines, WhileOneLineIsUpTheOthersButtonDoesNothing)
+TEST_F(Lines, WhileOneLineIsUpTheOthersButtonDoesNothingUnlessBothAreDialledTogether)
 {
     DialBoard();
     WatchPauses(1);
@@ -97,16 +94,24 @@ TEST_F(Lines, WhileOneLineIsUpTheOthersButtonDoesNothing)
     WatchPauses(1);
     DialBoard();
     EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
-    EXPECT_TRUE(pauses.empty());
+    EXPECT_EQ(pauses, Texts{});
+
+    player.duringWait.clear();
+    DialInternet();
+    InTheNextPause(DialBoard);
+    DialInternet();
+    EXPECT_EQ(Shown(), "Connected/Connected 1 5 6");
 }
 
 TEST_F(Lines, SessionsOfThreeAndTwoHoursBillThreeAndThenFiveDollars)
 {
-    const std::pair<int, int> sessions[]{{3, 15 - 3}, {2, 15 - 3 - 5}};
-    for (const auto& [hours, money] : sessions) {
+    for (const auto& [hours, money] : {std::pair{3, 15 - 3}, {1, 15 - 3 - 5}}) {
         DialInternet();
         for (int i = 0; i < hours; ++i) {
             NetworkHourTick();
+        }
+        if (hours == 1) {
+            InTheNextPause(NetworkHourTick); // one that passes while hanging up
         }
         DialInternet();
         EXPECT_EQ(GameState.Money, money);
@@ -114,51 +119,53 @@ TEST_F(Lines, SessionsOfThreeAndTwoHoursBillThreeAndThenFiveDollars)
     }
 }
 
-TEST_F(Lines, HoursBeyondTheirWidthAreSwallowed)
-{
-    DialInternet();
-    for (int i = 0; i < 32767 + 2; ++i) {
-        NetworkHourTick();
-    }
-    EXPECT_EQ(Network().TrafficHours, 32767);
-    EXPECT_TRUE(player.boxes.empty());
-}
-
 TEST_F(Lines, AReceivedFileAddsItsMegabytesAndASentOneNothing)
 {
     DialBoard();
-    dice.values = {DrawOf(5, 10), DrawOf(10, 10)};
-    WatchPauses(2);
+    dice.values = {DrawOf(5, 10), DrawOf(10, 10), 0.25F, 0.75F};
+    WatchPauses(4);
     ReceiveFromBoard();
+    EXPECT_EQ(LabelShown(lblOther), "5 Мб");
+    for (int i = 0; i < 3; ++i) {
+        SendToBoard();
+    }
     EXPECT_EQ(GameState.SoftSize, 5);
-    EXPECT_EQ(LabelShown(Label::lblOther), "5 Мб");
-    SendToBoard();
-    EXPECT_EQ(GameState.SoftSize, 5);
+    // A quarter and three quarters of ten are rounded half to even.
     EXPECT_EQ(pauses, (Texts{"4.5 Disconnected/Receiving 5120 Data... 1 5 6",
-                             "14 Disconnected/Sending 10240 Data... 1 5 6"}));
+                             "14 Disconnected/Sending 10240 Data... 1 5 6",
+                             "15.5 Disconnected/Sending 2048 Data... 1 5 6",
+                             "23 Disconnected/Sending 8192 Data... 1 5 6"}));
     EXPECT_EQ(Shown(), "Disconnected/Connected 1 5 6");
-}
 
-TEST_F(Lines, ATransferOfNothingDoesNotPause)
-{
-    DialBoard();
     dice.values = {DrawOf(0, 10)};
     player.open.insert(Window::frmNetwork);
     player.Forget();
     WatchPauses(1);
     ReceiveFromBoard();
-    EXPECT_TRUE(pauses.empty());
-    EXPECT_EQ(player.journal, (Texts{"reload frmNetwork", "reload frmNetwork", "lblOther=0 Мб"}));
+    EXPECT_EQ(pauses, Texts{}) << "nothing takes no time";
+    EXPECT_EQ(player.journal, (Texts{"reload frmNetwork", "reload frmNetwork", "lblOther=5 Мб"}));
 }
 
-TEST_F(Lines, ATransferInsideAnotherAddsToo)
+TEST_F(Lines, ADownloadInsideAnotherAddsTooAndLeavesTheButtonsWorking)
 {
-    DialBoard();
-    dice.values = {DrawOf(3, 10), DrawOf(4, 10)};
-    player.duringWait.emplace_back([] { EnterRules(ReceiveFromBoard); });
-    ReceiveFromBoard();
-    EXPECT_EQ(GameState.SoftSize, 7);
-    EXPECT_EQ(Network().bbsWaits, 0);
+    struct {
+        void (*dial)();
+        void (*outer)();
+        void (*inner)();
+    } const cases[]{{DialBoard, ReceiveFromBoard, ReceiveFromBoard},
+                    {DialInternet, DownloadSoftware, DownloadAntivirus}};
+    for (const auto& row : cases) {
+        Begin();
+        ResetNetwork();
+        row.dial();
+        const std::string before = Shown();
+        dice.values = {DrawOf(3, 10), DrawOf(4, 10)};
+        InTheNextPause(row.inner);
+        row.outer();
+        EXPECT_EQ(GameState.SoftSize, 7);
+        EXPECT_EQ(Shown(), before);
+        EXPECT_EQ(Network().inetWaits + Network().bbsWaits, 0);
+    }
 }
 
 TEST_F(Lines, TheSoftwareSiteGivesOnceUntilTheAntivirusSiteGives)
@@ -176,64 +183,31 @@ TEST_F(Lines, TheSoftwareSiteGivesOnceUntilTheAntivirusSiteGives)
     EXPECT_EQ(GameState.SoftAntivirus, 0);
 }
 
-TEST_F(Lines, AnAntivirusDownloadInsideTheSoftwaresOneLeavesTheButtonWorking)
-{
-    DialInternet();
-    dice.values = {DrawOf(5, 10), DrawOf(3, 10)};
-    player.duringWait.emplace_back([] { EnterRules(DownloadAntivirus); });
-    DownloadSoftware();
-    EXPECT_TRUE(Network().downloadEnabled);
-    EXPECT_EQ(GameState.SoftSize, 8);
-}
-
-TEST_F(Lines, BothLinesDialledTogetherComeUp)
-{
-    player.duringWait.emplace_back([] { EnterRules(DialBoard); });
-    DialInternet();
-    EXPECT_EQ(Network().InetConnected, True);
-    EXPECT_EQ(Network().BbsConnected, True);
-}
-
-TEST_F(Lines, AnHourThatPassesWhileHangingUpIsBilled)
-{
-    DialInternet();
-    player.duringWait.emplace_back(NetworkHourTick);
-    DialInternet();
-    EXPECT_EQ(GameState.Money, 14);
-}
-
-TEST_F(Lines, ATransfersSizeIsRoundedHalfToEven)
-{
-    DialBoard();
-    const std::pair<float, const char*> draws[]{{0.25F, "2048"}, {0.75F, "8192"}};
-    for (const auto& [draw, amount] : draws) {
-        dice.values = {draw};
-        WatchPauses(1);
-        SendToBoard();
-        EXPECT_NE(pauses.at(0).find(amount), std::string::npos) << pauses.at(0);
-    }
-}
-
 TEST_F(Lines, HangingUpInsideADownloadIsToldByTheWindowThatOpensNext)
 {
     DialInternet();
     dice.values = {DrawOf(7, 10)};
-    player.duringWait.emplace_back([] { EnterRules(DialInternet); });
+    InTheNextPause(DialInternet);
     DownloadAntivirus();
     EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6") << "a finished download says so";
     EXPECT_EQ(GameState.SoftSize, 7);
-    SayTrueStatus();
+    GameState.HardComm = GameState.SoftBrowser = 1;
+    GoOnline();
     EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
 }
 
-TEST_F(Lines, SoftwareBeyondItsWidthIsSwallowedAndTheButtonWorksAgain)
+TEST_F(Lines, WhatIsBeyondItsWidthIsSwallowedAndTheButtonWorksAgain)
 {
     DialInternet();
+    for (int i = 0; i < 32767 + 2; ++i) {
+        NetworkHourTick();
+    }
+    EXPECT_EQ(Network().TrafficHours, 32767);
     SetSoftSize(32767);
     dice.values = {DrawOf(1, 10)};
     DownloadSoftware();
     EXPECT_EQ(GameState.SoftSize, 32767);
-    EXPECT_TRUE(player.boxes.empty());
+    EXPECT_EQ(Told(), Texts{});
     EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
 }
 
@@ -256,11 +230,11 @@ TEST_F(Lines, ADeathInAPauseAbandonsTheSequenceAndTheNextLifeFindsTheTruth)
         ResetNetwork();
         one.prepare();
         NetworkHourTick();
-        DieInTheNextWait();
+        NextLifeIs("Пётр");
+        InTheNextPause([] { SetHealth(-50); });
         EnterRules(one.sequence);
         EXPECT_EQ(Shown(), one.shown);
         EXPECT_EQ(Network().inetWaits + Network().bbsWaits, 0);
-        EXPECT_EQ(GameState.PlayerName, "Пётр");
         EXPECT_EQ(GameState.Money, 15);
         EXPECT_EQ(GameState.SoftSize, 0);
     }
@@ -268,7 +242,7 @@ TEST_F(Lines, ADeathInAPauseAbandonsTheSequenceAndTheNextLifeFindsTheTruth)
 
 TEST_F(Lines, TheProgramsEndInAPauseIsTheEndOfTheSequence)
 {
-    player.duringWait.emplace_back([] { EnterRules([] { EndProgram(); }); });
+    InTheNextPause([] { EndProgram(); });
     EnterRules(DialInternet);
     EXPECT_EQ(Network().InetConnected, False);
     EXPECT_EQ(player.journal.back(), "end program");

@@ -61,25 +61,19 @@ TEST_F(Languages, AValueIsFoundAsAnIniFileHasIt)
     EXPECT_EQ(ReadLangString(Folder(), "General", "Description"), "");
 }
 
-TEST_F(Languages, SelectingReadsBothTextsOfTheItemCountedFromOne)
+TEST_F(Languages, SelectingReadsBothTextsOfTheItemCountedFromOneOrReportsThatThereIsNone)
 {
     LangFiles() = {Folder() + "none", File("[General]\r\nCopyright=я\r\nDescription=Русский")};
+    for (const int index : {-1, 0, 3}) {
+        EXPECT_EQ(ErrorOf([&] { SelectLanguage(index); }).number, error::Subscript);
+        EXPECT_EQ(ErrorTold(), error::Subscript) << index;
+        EXPECT_EQ(LangDescription, "as before");
+    }
     SelectLanguage(2);
     EXPECT_EQ(LangDescription, "Русский");
     EXPECT_EQ(LangCopyright, "я");
     SelectLanguage(1);
     EXPECT_EQ(LangDescription + LangCopyright, "");
-}
-
-TEST_F(Languages, AnItemOutsideTheListIsReportedAndTheTextsStay)
-{
-    LangFiles() = {File("[General]\r\nDescription=x")};
-    for (const int index : {-1, 0, 2}) {
-        player.Forget();
-        EXPECT_EQ(ErrorOf([&] { SelectLanguage(index); }).number, error::Subscript);
-        EXPECT_EQ(player.boxes.size(), 1U) << index;
-        EXPECT_EQ(LangDescription, "as before");
-    }
 }
 
 TEST_F(Languages, ATextIsCutAtItsFirstNul)

@@ -25,33 +25,24 @@ protected:
     fs::path Temp() const { return fs::path(Folder()) / "TEMP"; }
 };
 
-TEST_F(Pictures, APictureIsItsResourceTimeAfterTimeAndNoFileIsLeft)
+TEST_F(Pictures, APictureIsItsResourceAndOnlyATempFolderThatWasThereBecomesTheCurrentOne)
 {
-    for (int i = 0; i < 2; ++i) {
+    EXPECT_FALSE(DirExists(Folder() + "none"));
+    EXPECT_TRUE(DirExists(Folder()));
+    for (const fs::path& current : {fs::path(Folder()), Temp()}) {
         EXPECT_EQ(LoadFormPicture("HARD").data(), player.pictures["HARDPICTURE"].data());
-        EXPECT_TRUE(fs::is_empty(Temp()));
+        EXPECT_EQ(fs::current_path(), fs::canonical(current));
+        EXPECT_TRUE(fs::is_empty(Temp())) << "no file is left";
     }
-    EXPECT_TRUE(player.boxes.empty());
-}
-
-TEST_F(Pictures, OnlyATempFolderThatWasThereBecomesTheCurrentOne)
-{
-    fs::current_path(Folder());
-    LoadFormPicture("HARD");
-    EXPECT_EQ(fs::current_path(), fs::canonical(Folder()));
-    LoadFormPicture("HARD");
-    EXPECT_EQ(fs::current_path(), fs::canonical(Temp()));
+    EXPECT_EQ(Told(), Texts{});
 }
 
 TEST_F(Pictures, AResourceThatIsMissingOrOneByteIsToldAndGivesNoPicture)
 {
     for (const char* key : {"XYZ", "BIT"}) {
-        player.Forget();
         EXPECT_TRUE(LoadFormPicture(key).empty());
-        ASSERT_EQ(player.boxes.size(), 1U) << key;
-        EXPECT_EQ(player.BoxTexts().front(), "JPEGInside Critical Error: "
-                                             "Error 48: Picture not Exist or Data Damage Error");
-        EXPECT_EQ(player.boxes.front().icon, Icon::Critical);
+        EXPECT_EQ(Told(), Texts{"x JPEGInside Critical Error: Error 48: Picture not Exist or Data "
+                                "Damage Error"});
         EXPECT_TRUE(fs::is_empty(Temp())) << "the folder's effects come all the same";
     }
 }
@@ -65,13 +56,6 @@ TEST_F(Pictures, ATempThatCannotBeUsedCostsNoPictureAndNoWord)
     EXPECT_EQ(LoadFormPicture("HARD").size(), 3U);
     EXPECT_TRUE(fs::exists(Temp() / "HARD.JPI" / "inner"));
     EXPECT_TRUE(player.boxes.empty());
-}
-
-TEST_F(Pictures, AFolderThatExistsBecomesTheCurrentOne)
-{
-    EXPECT_FALSE(DirExists(Folder() + "none"));
-    EXPECT_TRUE(DirExists(Folder()));
-    EXPECT_EQ(fs::current_path(), fs::canonical(Folder()));
 }
 
 } // namespace

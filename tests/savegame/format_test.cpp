@@ -11,20 +11,17 @@ namespace torvenhall::test
 namespace
 {
 
-TEST(SavedGameFormat, AKnownLifeHasTheBytesOfTheKeptFile)
+TEST(SavedGameFormat, AKnownLifeHasTheBytesOfTheKeptFileAndReadsBackFromThem)
 {
-    EXPECT_EQ(EncodeGame(KnownLife()), ReadWholeFile(KnownLifeFile));
-}
-
-TEST(SavedGameFormat, TheKeptFileReadsBackAsTheKnownLife)
-{
-    const SavedGame lines = DecodeGame(ReadWholeFile(KnownLifeFile));
+    const std::string kept = ReadWholeFile(KnownLifeFile);
+    EXPECT_EQ(EncodeGame(KnownLife()), kept);
+    const SavedGame lines = DecodeGame(kept);
     EXPECT_EQ(lines.front(), ApplicationTitle);
     GameStateRecord read;
     for (std::size_t line = 1; line <= SavedLines; ++line) {
         ReadField(read, line, lines[line - 1]);
     }
-    EXPECT_EQ(EncodeGame(read), EncodeGame(KnownLife()));
+    EXPECT_EQ(EncodeGame(read), kept);
 }
 
 TEST(SavedGameFormat, FewerLinesAreReadAsTheyAreAndMoreAreAnError)
@@ -35,19 +32,9 @@ TEST(SavedGameFormat, FewerLinesAreReadAsTheyAreAndMoreAreAnError)
     EXPECT_EQ(ErrorOf([&] { DecodeGame(full + ShiftCharsDown("\r\n")); }).number, error::Subscript);
 }
 
-TEST(SavedGameFormat, OnlyTrueAndFalseAreEverWrittenForABoolean)
+TEST(SavedGameFormat, AnyNumberIsTrueInAnAttendanceLineAndOnlyTrueAndFalseAreEverWritten)
 {
     GameStateRecord life = KnownLife();
-    life.AttendCourses = life.AttendSchool = life.Married = life.WifeFound = 5;
-    const SavedGame lines = DecodeGame(EncodeGame(life));
-    for (const std::size_t line : {27U, 28U, 34U, 35U}) {
-        EXPECT_EQ(lines[line - 1], "-1") << line;
-    }
-}
-
-TEST(SavedGameFormat, AnyNumberInAnAttendanceLineIsTrueWhileTheFamilysStaysItself)
-{
-    GameStateRecord life;
     for (const std::size_t line : {27U, 28U, 34U, 35U}) {
         ReadField(life, line, "5");
     }
@@ -55,13 +42,13 @@ TEST(SavedGameFormat, AnyNumberInAnAttendanceLineIsTrueWhileTheFamilysStaysItsel
     EXPECT_EQ(life.AttendSchool, True);
     EXPECT_EQ(life.Married, 5);
     EXPECT_EQ(life.WifeFound, 5);
-}
-
-TEST(SavedGameFormat, ALineBreakInANameShiftsNoLine)
-{
-    GameStateRecord life = KnownLife();
+    life.AttendCourses = life.AttendSchool = 5;
     life.PlayerName = "a\r\nb";
-    EXPECT_EQ(DecodeGame(EncodeGame(life))[5], "a b");
+    const SavedGame lines = DecodeGame(EncodeGame(life));
+    for (const std::size_t line : {27U, 28U, 34U, 35U}) {
+        EXPECT_EQ(lines[line - 1], "-1") << line;
+    }
+    EXPECT_EQ(lines[5], "a b") << "a line break in a name shifts no line";
 }
 
 } // namespace

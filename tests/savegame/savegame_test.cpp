@@ -21,12 +21,10 @@ namespace torvenhall::test
 namespace
 {
 
-using Texts = std::vector<std::string>;
-
-class SavedGames : public Life
+class SavedGames : public BegunLife
 {
 protected:
-    SavedGames() { Begin(); }
+    SavedGames() { MakeDirectory(Folder() + "SAVE"); }
 
     std::string PathOf(const std::string& file) const { return Folder() + "SAVE/" + file; }
 
@@ -52,14 +50,8 @@ protected:
         for (std::size_t i = 1; i < lines.size(); ++i) {
             text += "\r\n" + lines[i];
         }
-        Write("lines", ShiftCharsDown(ToWindows1251(text)));
+        ReplaceFile(PathOf("lines.QVS"), ShiftCharsDown(ToWindows1251(text)));
         Load("lines");
-    }
-
-    void Write(const std::string& name, const std::string& bytes)
-    {
-        MakeDirectory(Folder() + "SAVE");
-        ReplaceFile(PathOf(name + ".QVS"), bytes);
     }
 
     static SavedGame LinesOf(const GameStateRecord& life) { return DecodeGame(EncodeGame(life)); }
@@ -76,10 +68,7 @@ protected:
             InstallSoftware(category++, item);
         }
         SetWork(12);
-        SetMoney(-7);
-        SetHappy(-30);
-        SetHealth(-31);
-        SetEatLevel(120);
+        Set(-30, -31, 120, -7);
         SetEducation(7);
         SetIntelligence(110);
         SetGameSpeed(60);
@@ -88,7 +77,7 @@ protected:
         GameState.Daughters = 2;
         GameState.Alimony = 50;
         ShowFamily();
-        ShowLabel(Label::lblMessage, "");
+        ShowLabel(lblMessage, "");
     }
 };
 
@@ -115,22 +104,29 @@ TEST_F(SavedGames, TheFirstGameIsSavedAsTheSecondAndShownSo)
 {
     LiveWell();
     InstallSoftware(5, 1);
-    EXPECT_EQ(LabelShown(Label::lblGames), "DOOM-II");
+    EXPECT_EQ(LabelShown(lblGames), "DOOM-II");
     Save("a");
     Load("a");
     EXPECT_EQ(GameState.SoftGames, 2);
-    EXPECT_EQ(LabelShown(Label::lblGames), "Duke 3 for MSDOS");
+    EXPECT_EQ(LabelShown(lblGames), "Duke 3 for MSDOS");
 }
 
-TEST_F(SavedGames, TheDialogsAskInTheGamesWords)
+TEST_F(SavedGames, TheDialogsAskInTheGamesWordsAndAnEmptyNameIsACancel)
 {
+    Save("");
     Save("a");
     Load("a");
-    ASSERT_EQ(player.gameQuestions.size(), 2U);
-    const GameNameQuestion& saving = player.gameQuestions[0];
+    for (const std::optional<std::string>& answer : {std::optional<std::string>(), {""}}) {
+        player.games = {answer, answer};
+        EnterRules(SaveGame);
+        EnterRules(LoadGame);
+    }
+    EXPECT_EQ(ListSavedGames(), Texts{"a"});
+    EXPECT_EQ(Told(), Texts{});
+    const GameNameQuestion& saving = player.gameQuestions.at(1);
     EXPECT_EQ((Texts{saving.caption, saving.heading, saving.confirm, saving.name}),
               (Texts{"Сохранение игры", "Доступные игры:", "Сохранить", ""}));
-    const GameNameQuestion& loading = player.gameQuestions[1];
+    const GameNameQuestion& loading = player.gameQuestions.at(2);
     EXPECT_EQ((Texts{loading.caption, loading.heading, loading.confirm, loading.name}),
               (Texts{"Загрузка игры", "Доступные игры:", "Загрузить", ""}));
     EXPECT_TRUE(saving.saving);
@@ -138,52 +134,33 @@ TEST_F(SavedGames, TheDialogsAskInTheGamesWords)
     EXPECT_EQ(loading.games, Texts{"a"});
 }
 
-TEST_F(SavedGames, CancellingAndAnEmptyNameWriteAndLoadNothing)
+TEST_F(SavedGames, TheListIsSortedKnowsTheExtensionInAnyCaseAndWhatIsListedLoads)
 {
-    for (const std::optional<std::string>& answer : {std::optional<std::string>(), {""}}) {
-        for (void (*const command)() : {SaveGame, LoadGame}) {
-            player.games.push_back(answer);
-            EnterRules(command);
-        }
+    for (const char* name : {"Бета", "альфа", "a b", "game.qvs"}) {
+        Save(name);
     }
-    EXPECT_TRUE(ListSavedGames().empty());
-    EXPECT_TRUE(player.boxes.empty());
-    EXPECT_EQ(GameState.PlayerName, "Иван");
-}
-
-TEST_F(SavedGames, TheListIsSortedAndKnowsTheExtensionInAnyCase)
-{
-    EXPECT_TRUE(ListSavedGames().empty());
-    Save("Бета");
-    Save("альфа");
-    Save("a b");
-    Save("game.qvs");
-    for (const char* file : {"a.qvs", "a.QVS", "c.Qvs", ".qvs", "d.qvsx", "e"}) {
+    for (const char* file : {"a.qvs", "a.QVS", ".qvs", "d.qvsx", "e"}) {
         ReplaceFile(PathOf(file), "");
     }
+    ReplaceFile(PathOf("c.Qvs"), EncodeGame(KnownLife()));
     MakeDirectory(PathOf("folder.qvs"));
     EXPECT_EQ(ListSavedGames(), (Texts{"a", "a b", "c", "game.qvs", "альфа", "Бета"}));
     EXPECT_TRUE(FileExists(PathOf("game.qvs.QVS")));
-}
-
-TEST_F(SavedGames, WhatIsListedLoadsWhateverTheCaseOfItsExtension)
-{
-    MakeDirectory(Folder() + "SAVE");
-    ReplaceFile(PathOf("a.qvs"), EncodeGame(KnownLife()));
-    player.games.emplace_back("a");
+    player.games.emplace_back("c");
     EnterRules(LoadGame);
     EXPECT_EQ(GameState.PlayerName, "Ёжик Петров");
 }
 
-TEST_F(SavedGames, ARefusedNameIsReportedAndTheDialogComesBackWithIt)
+TEST_F(SavedGames, ARefusedNameOrAFailedWriteIsReportedAndTheDialogComesBackWithTheName)
 {
-    for (const std::string& name :
-         {std::string("../a"), std::string("a/b"), std::string(300, 'a')}) {
+    MakeDirectory(PathOf("folder.QVS"));
+    const std::pair<std::string, int> names[]{
+        {"../a", 52}, {"a/b", 52}, {std::string(300, 'a'), 52}, {"folder", 75}};
+    for (const auto& [name, number] : names) {
         player.Forget();
-        player.games = {name, "good"};
+        player.games = {name, number == 52 ? std::optional<std::string>("good") : std::nullopt};
         EnterRules(SaveGame);
-        ASSERT_EQ(player.boxes.size(), 1U) << name;
-        EXPECT_NE(player.boxes[0].text.find("№ 52 : Недопустимое имя файла."), std::string::npos);
+        EXPECT_EQ(ErrorTold(), number) << name;
         ASSERT_EQ(player.gameQuestions.size(), 2U);
         EXPECT_EQ(player.gameQuestions[1].name, name);
     }
@@ -191,98 +168,58 @@ TEST_F(SavedGames, ARefusedNameIsReportedAndTheDialogComesBackWithIt)
     EXPECT_FALSE(std::filesystem::exists(Folder() + "a.QVS"));
 }
 
-TEST_F(SavedGames, AFailedWriteIsReportedAndTheDialogComesBackUntilItIsCancelled)
+TEST_F(SavedGames, TheFolderIsMadeWhenNeededAndGivenNoPlaceForItSavingAsksNothing)
 {
-    MakeDirectory(Folder() + "SAVE");
-    MakeDirectory(PathOf("a.QVS"));
-    player.games = {"a", std::nullopt};
-    EnterRules(SaveGame);
-    ASSERT_EQ(player.boxes.size(), 1U);
-    EXPECT_NE(player.boxes[0].text.find("№ 75"), std::string::npos);
-    EXPECT_EQ(player.gameQuestions.back().name, "a");
-}
+    const auto remove = [this] { std::filesystem::remove(Folder() + "SAVE"); };
+    remove();
+    EXPECT_EQ(ListSavedGames(), Texts{});
+    player.whileDialogOpen.emplace_back(remove);
+    Save("kept");
+    EXPECT_EQ(ListSavedGames(), Texts{"kept"}) << "it vanished while the dialog was open";
 
-TEST_F(SavedGames, GivenNoPlaceForTheFolderSavingReportsAndAsksNothing)
-{
+    std::filesystem::remove_all(Folder() + "SAVE");
     ReplaceFile(Folder() + "SAVE", "a file in its place");
+    player.Forget();
     EnterRules(SaveGame);
     EXPECT_EQ(player.boxes.size(), 1U);
     EXPECT_TRUE(player.gameQuestions.empty());
 }
 
-TEST_F(SavedGames, ADeathWhileTheSaveDialogIsOpenSavesNothing)
+TEST_F(SavedGames, ADeathOrTheProgramsEndWhileTheSaveDialogIsOpenSavesNothing)
 {
-    player.names.push_back(NewPlayer{"Пётр", 1});
-    player.whileDialogOpen.emplace_back([] { EnterRules([] { SetHealth(-50); }); });
-    Save("a");
-    EXPECT_TRUE(ListSavedGames().empty());
-    EXPECT_EQ(GameState.PlayerName, "Пётр");
-}
-
-TEST_F(SavedGames, TheProgramsEndWhileTheSaveDialogIsOpenSavesNothing)
-{
-    player.games.emplace_back("late");
-    player.whileDialogOpen.emplace_back([] { EnterRules([] { EndProgram(); }); });
-    EnterRules(SaveGame);
-    EXPECT_TRUE(ListSavedGames().empty());
-}
-
-TEST_F(SavedGames, AFolderThatVanishesWhileTheDialogIsOpenIsMadeAgain)
-{
-    player.games.emplace_back("kept");
-    player.whileDialogOpen.emplace_back([this] { std::filesystem::remove(Folder() + "SAVE"); });
-    EnterRules(SaveGame);
-    EXPECT_EQ(ListSavedGames(), Texts{"kept"});
-}
-
-TEST_F(SavedGames, BothRefusalsOfALoadHaveTheStopSign)
-{
-    player.games.emplace_back("nothing");
-    EnterRules(LoadGame);
-    SavedGame lines = LinesOf(KnownLife());
-    lines.front() = "other";
-    LoadLines(lines);
-    ASSERT_EQ(player.boxes.size(), 2U);
-    EXPECT_EQ(player.boxes[0].icon, Icon::Critical);
-    EXPECT_EQ(player.boxes[1].icon, Icon::Critical);
+    NextLifeIs("Пётр");
+    void (*const ends[])(){[] { SetHealth(-50); }, [] { EndProgram(); }};
+    for (void (*const end)() : ends) {
+        player.whileDialogOpen.emplace_back([end] { EnterRules(end); });
+        player.whileDialogOpen.emplace_back(); // the name dialog
+        Save("a");
+        EXPECT_TRUE(ListSavedGames().empty());
+        EXPECT_EQ(GameState.PlayerName, "Пётр");
+    }
 }
 
 TEST_F(SavedGames, AGameThatVanishedIsTold)
 {
-    Save("a");
-    player.Forget();
     player.games.emplace_back("a");
-    player.whileDialogOpen.emplace_back([this] { DeleteFile(PathOf("a.QVS")); });
     EnterRules(LoadGame);
-    EXPECT_EQ(player.BoxTexts(), Texts{"Ошибка: Файл игры a.QVS не найден!"});
+    EXPECT_EQ(Told(), Texts{"x Ошибка: Файл игры a.QVS не найден!"});
 }
 
-TEST_F(SavedGames, AnotherReleasesGameIsRefusedWhole)
+TEST_F(SavedGames, AnotherReleasesGameIsRefusedWholeAndTooManyLinesAreAnErrorBeforeThat)
 {
     const std::string before = EncodeGame(GameState);
     for (const char* title : {"", "marshend torvenhall 1.5", "Marshend Torvenhall 1.5 "}) {
-        player.Forget();
         SavedGame lines = LinesOf(KnownLife());
         lines.front() = title;
         LoadLines(lines);
-        EXPECT_EQ(player.BoxTexts(), Texts{"Загрузка игры: Некорректная версия"}) << title;
+        EXPECT_EQ(Told(), Texts{"x Загрузка игры: Некорректная версия"}) << title;
         EXPECT_EQ(EncodeGame(GameState), before);
     }
-}
-
-TEST_F(SavedGames, TooManyLinesAreAnErrorBeforeAnythingElse)
-{
-    const std::string before = EncodeGame(GameState);
     for (const std::string& title : {std::string(ApplicationTitle), std::string("other")}) {
-        player.Forget();
-        std::string text = title;
-        for (int i = 0; i < 38; ++i) {
-            text += "\r\n1";
-        }
-        Write("long", ShiftCharsDown(text));
-        Load("long");
-        ASSERT_EQ(player.boxes.size(), 1U);
-        EXPECT_NE(player.boxes[0].text.find("№ 9 "), std::string::npos);
+        SavedGame lines(39, "1");
+        lines.front() = title;
+        LoadLines(lines);
+        EXPECT_EQ(ErrorTold(), 9);
         EXPECT_EQ(EncodeGame(GameState), before);
     }
 }
@@ -317,22 +254,19 @@ TEST_F(SavedGames, EachDamagedLineStopsTheLoadThereAndIsReported)
             for (std::size_t i = 1; i <= SavedLines; ++i) {
                 EXPECT_EQ(after[i - 1], i < line ? good[i - 1] : before[i - 1]) << "line " << i;
             }
-            ASSERT_EQ(player.boxes.size(), 1U);
-            EXPECT_NE(player.boxes[0].text.find(number == 13 ? "Несовпадение типов" : "№ 6 "),
-                      std::string::npos);
+            EXPECT_EQ(ErrorTold(), number);
         }
     }
 }
 
 TEST_F(SavedGames, GivenAFileCutShortItsLinesAreAppliedAndTheRestKeepsItsValues)
 {
-    Write("short", ShiftCharsDown("Marshend Torvenhall 1.5\r\n100\r\n-5\r\n12:30\r\n03.02.2001"));
-    Load("short");
+    LoadLines({"Marshend Torvenhall 1.5", "100", "-5", "12:30", "03.02.2001"});
     EXPECT_EQ(GameState.Money, 100);
     EXPECT_EQ(GameState.Happy, -5);
     EXPECT_EQ(GameState.PlayerName, "Иван");
     EXPECT_EQ(GameState.Health, 40);
-    EXPECT_EQ(LabelShown(Label::lblTime), "3 февраля 2001 г. - 12:30");
+    EXPECT_EQ(LabelShown(lblTime), "3 февраля 2001 г. - 12:30");
     EXPECT_EQ(player.boxes.size(), 1U);
 }
 
@@ -347,20 +281,20 @@ TEST_F(SavedGames, AProgramWhoseHardwareIsGoneIsToldAndKept)
     Save("a");
     Begin();
     Load("a");
-    EXPECT_EQ(player.BoxTexts(),
-              Texts{"Ну у Вас и запросы...: Слабая машинка!!!! Нужен Pentium 133, 1.3 Gb IDE, "
+    EXPECT_EQ(Told(),
+              Texts{"i Ну у Вас и запросы...: Слабая машинка!!!! Нужен Pentium 133, 1.3 Gb IDE, "
                     "16 Mb RAM, S3 Trio 64V+"});
     EXPECT_EQ(GameState.SoftOS, 3);
-    EXPECT_EQ(LabelShown(Label::lblOs), "Microsoft Windows 98");
-    EXPECT_EQ(LabelShown(Label::lblAntiv), "Antivirial Toolkit Pro");
-    EXPECT_EQ(LabelShown(Label::lblhard0), "Нет вооще");
+    EXPECT_EQ(LabelShown(lblOs), "Microsoft Windows 98");
+    EXPECT_EQ(LabelShown(lblAntiv), "Antivirial Toolkit Pro");
+    EXPECT_EQ(LabelShown(lblhard0), "Нет вооще");
 }
 
 TEST_F(SavedGames, AFatalMoodInAFileIsOneDeathAndThenACleanLife)
 {
     SavedGame lines = LinesOf(KnownLife());
     lines[2] = "-80";
-    player.names.push_back(NewPlayer{"Пётр", 1});
+    NextLifeIs("Пётр");
     LoadLines(lines);
     EXPECT_EQ(player.boxes.size(), 1U);
     EXPECT_EQ(GameState.PlayerName, "Пётр");
@@ -377,12 +311,12 @@ TEST_F(SavedGames, NoTickRunsWhileALoadShowsABox)
     LoadLines(lines);
     EXPECT_EQ(player.boxes.size(), 1U);
     EXPECT_EQ(GameState.GameLevel, 1);
-    EXPECT_EQ(LabelShown(Label::lblTime), "29 февраля 2004 г. - 23:45");
+    EXPECT_EQ(LabelShown(lblTime), "29 февраля 2004 г. - 23:45");
 }
 
 TEST_F(SavedGames, AMessageOfTheLifeBeforeIsNotTypedOn)
 {
-    Write("known", EncodeGame(KnownLife()));
+    ReplaceFile(PathOf("known.QVS"), EncodeGame(KnownLife()));
     player.duringWait.emplace_back([] {});
     player.duringWait.emplace_back([this] { Load("known"); });
     EnterRules([] {
@@ -390,7 +324,7 @@ TEST_F(SavedGames, AMessageOfTheLifeBeforeIsNotTypedOn)
         SetMoney(1);
     });
     EXPECT_EQ(GameState.Money, -1234567);
-    EXPECT_EQ(LabelShown(Label::lblMessage), "");
+    EXPECT_EQ(LabelShown(lblMessage), "");
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 #include "support/life.h"
 
 #include <filesystem>
+#include <map>
 
+#include "core/basGame.h"
 #include "core/entry.h"
 #include "core/life.h"
 #include "core/newgame.h"
@@ -51,6 +53,21 @@ void Life::Begin(int level, const std::string& name)
     player.Forget();
 }
 
+void Life::Set(int happy, int health, int eat, int money)
+{
+    SetHappy(happy);
+    SetHealth(health);
+    SetEatLevel(eat);
+    SetMoney(money);
+    player.Forget();
+}
+
+void Life::NextLifeIs(const std::string& name)
+{
+    player.Forget();
+    player.names.push_back(NewPlayer{name, 1});
+}
+
 void Life::Tick(int times)
 {
     for (int i = 0; i < times; ++i) {
@@ -66,15 +83,52 @@ void Life::FinishDay()
     }
 }
 
-void Life::PlainDays()
-{
-    dice.otherwise = DrawOf(1, 50);
-}
-
 std::string Life::LabelShown(Label label) const
 {
     const auto found = player.labels.find(label);
     return found == player.labels.end() ? "" : found->second;
+}
+
+Texts Life::ShownBy(const Changes& changes)
+{
+    std::map<Label, int> now{{lblMoney, GameState.Money.value()},
+                             {lblHappy, GameState.Happy.value()},
+                             {lblHealth, GameState.Health.value()},
+                             {lblEat, GameState.EatLevel.value()}};
+    Texts shown;
+    for (const auto& [label, by] : changes) {
+        const std::string number = std::to_string(now.at(label) += by);
+        shown.push_back(std::string(LabelName(label)) +
+                        (label == lblMoney ? "=$" + number : "=" + number + "%"));
+    }
+    return shown;
+}
+
+Texts Life::Told()
+{
+    Texts told;
+    for (const MessageBox& box : player.boxes) {
+        told.push_back(std::string{"i!?x"[static_cast<int>(box.icon)]} + " " + box.title + ": " +
+                       box.text);
+    }
+    player.boxes.clear();
+    return told;
+}
+
+int Life::ErrorTold()
+{
+    const Texts told = Told();
+    EXPECT_LE(told.size(), 1U);
+    if (told.empty()) {
+        return 0;
+    }
+    const std::string sign = "№ ";
+    const std::size_t found = told[0].find(sign);
+    if (found != std::string::npos) {
+        return std::stoi(told[0].substr(found + sign.size()));
+    }
+    EXPECT_NE(told[0].find("Несовпадение типов данных"), std::string::npos) << told[0];
+    return 13;
 }
 
 } // namespace torvenhall::test

@@ -23,14 +23,13 @@ void RunNext(std::deque<std::function<void()>>& queue)
 }
 
 template <class Value>
-std::optional<Value> NextAnswer(std::deque<std::optional<Value>>& queue,
-                                const std::string& question)
+Value NextAnswer(std::deque<Value>& queue, const std::string& question)
 {
     if (queue.empty()) {
         ADD_FAILURE() << "unexpected question: " << question;
         return {};
     }
-    std::optional<Value> answer = std::move(queue.front());
+    Value answer = std::move(queue.front());
     queue.pop_front();
     return answer;
 }
@@ -81,13 +80,7 @@ Answer ScriptedFrontEnd::ShowMessageBox(const MessageBox& box)
     journal.push_back("box " + box.title);
     Answer answer = Answer::Ok;
     if (box.buttons == Buttons::YesNo) {
-        if (answers.empty()) {
-            ADD_FAILURE() << "unexpected question: " << box.text;
-            answer = Answer::No;
-        } else {
-            answer = answers.front();
-            answers.pop_front();
-        }
+        answer = NextAnswer(answers, box.text);
     }
     RunNext(whileBoxOpen);
     return answer;

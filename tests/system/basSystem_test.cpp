@@ -11,16 +11,12 @@ namespace
 
 using System = Life;
 
-TEST_F(System, ASeparatorIsAddedOnceAndStrippedOnce)
+TEST_F(System, ASeparatorIsAddedOnceAndStrippedOnceAndOnlyTheLastExtensionGoes)
 {
     EXPECT_EQ(AddBackslash("C:\\", '\\'), "C:\\");
     EXPECT_EQ(AddBackslash("C:\\GAME", '\\'), "C:\\GAME\\");
     EXPECT_EQ(StripBackslash("C:\\GAME\\\\", '\\'), "C:\\GAME\\");
     EXPECT_EQ(StripBackslash("C:\\GAME", '\\'), "C:\\GAME");
-}
-
-TEST_F(System, OnlyTheLastExtensionIsStripped)
-{
     const std::pair<const char*, const char*> names[]{
         {"save.one.qvs", "save.one"}, {"save", "save"}, {".qvs", ""}, {"save.", "save"}};
     for (const auto& [name, stripped] : names) {
@@ -48,17 +44,13 @@ TEST_F(System, AFileExistsIfItOpensAndAskingNeverMakesOne)
     EXPECT_FALSE(FileExists(Folder()));
 }
 
-TEST_F(System, GivenNoShareFolderEverythingLiesBesideTheProgram)
-{
-    FindDirectories("no/such/folder");
-    const auto beside = std::filesystem::path(ProgramFile()).parent_path();
-    EXPECT_EQ(std::filesystem::path(ProgramDirectory()), beside / "");
-    EXPECT_EQ(DataDirectory(), ProgramDirectory());
-}
-
-TEST_F(System, GivenAShareFolderTheGamesLieWithTheUser)
+TEST_F(System, EverythingLiesBesideTheProgramUnlessAShareFolderIsThere)
 {
     const auto program = std::filesystem::path(ProgramFile()).parent_path();
+    FindDirectories("no/such/folder");
+    EXPECT_EQ(std::filesystem::path(ProgramDirectory()), program / "");
+    EXPECT_EQ(DataDirectory(), ProgramDirectory());
+
     const auto share = std::filesystem::path(Folder()) / "share";
     std::filesystem::create_directory(share);
     ASSERT_EQ(setenv("XDG_DATA_HOME", (Folder() + "data").c_str(), 1), 0);

@@ -41,9 +41,9 @@ namespace
 class Files : public Life
 {
 protected:
-    std::vector<std::string> Everything() const
+    Texts Everything() const
     {
-        std::vector<std::string> names;
+        Texts names;
         for (const auto& entry : std::filesystem::directory_iterator(Folder())) {
             names.push_back(entry.path().filename().string());
         }
@@ -58,39 +58,28 @@ int ErrorOfReplacing(const std::string& path, std::string_view bytes)
     return ErrorOf([&] { ReplaceFile(path, bytes); }).number;
 }
 
-TEST_F(Files, AReplacedFileHoldsExactlyTheNewBytesAndNothingElseIsLeft)
+TEST_F(Files, AReplacedFileHoldsExactlyTheNewBytesKeepsItsPermissionsAndIsAlone)
 {
     const std::string bytes{"\x09\x0A\x0D\x1A\x00\xFF", 6};
     ReplaceFile(path, "a longer text before");
+    std::filesystem::permissions(path, std::filesystem::perms{0604});
     ReplaceFile(path, bytes);
     EXPECT_EQ(ReadWholeFile(path), bytes);
-    EXPECT_EQ(Everything(), std::vector<std::string>{"игра.QVS"});
-}
-
-TEST_F(Files, AReplacedFileKeepsItsPermissions)
-{
-    ReplaceFile(path, "old");
-    std::filesystem::permissions(path, std::filesystem::perms{0604});
-    ReplaceFile(path, "new");
     EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms{0604});
+    EXPECT_EQ(Everything(), Texts{"игра.QVS"});
+    OverwriteFile(path, "XY");
+    EXPECT_EQ(ReadWholeFile(path), "XY" + bytes.substr(2)) << "overwriting does not shorten";
 }
 
-TEST_F(Files, GivenAFailingFlushTheOldFileStaysAndTheErrorIsTold)
+TEST_F(Files, GivenAFailingFlushOfFileOrFolderSuccessIsNotClaimed)
 {
-    ReplaceFile(path, "old");
-    failingFlush = 1;
-    EXPECT_EQ(ErrorOfReplacing(path, "new"), error::DeviceInputOutput);
-    EXPECT_EQ(ReadWholeFile(path), "old");
-    EXPECT_EQ(Everything().size(), 1U);
-}
-
-TEST_F(Files, GivenAFolderThatFailsToFlushSuccessIsNotClaimed)
-{
-    ReplaceFile(path, "old");
-    failingFlush = 2;
-    EXPECT_EQ(ErrorOfReplacing(path, "new"), error::DeviceInputOutput);
-    EXPECT_EQ(ReadWholeFile(path), "new");
-    EXPECT_EQ(Everything().size(), 1U);
+    for (const auto& [flush, left] : {std::pair{1, "old"}, {2, "new"}}) {
+        ReplaceFile(path, "old");
+        failingFlush = flush;
+        EXPECT_EQ(ErrorOfReplacing(path, "new"), error::DeviceInputOutput);
+        EXPECT_EQ(ReadWholeFile(path), left);
+        EXPECT_EQ(Everything().size(), 1U);
+    }
 }
 
 TEST_F(Files, GivenAFullDiskTheOldFileStaysAndTheErrorIsTold)
@@ -165,13 +154,6 @@ TEST_F(Files, AKillAtAnyMomentLeavesTheOldBytesOrTheNewOnes)
     }
 }
 
-TEST_F(Files, OverwritingDoesNotShorten)
-{
-    OverwriteFile(path, "abcdef");
-    OverwriteFile(path, "XY");
-    EXPECT_EQ(ReadWholeFile(path), "XYcdef");
-}
-
 TEST_F(Files, MissingThingsAreToldApart)
 {
     const auto number = [](auto body) { return ErrorOf(body).number; };
@@ -193,20 +175,19 @@ TEST_F(Files, NamesAreSortedWithoutRegardToCaseAndFoldersLeftOut)
     }
     std::ofstream(Folder() + "\xFF") << "not UTF-8";
     MakeDirectory(Folder() + "folder");
-    EXPECT_EQ(FileNames(Folder()), (std::vector<std::string>{".c", "a", "B", "б", "В"}));
+    EXPECT_EQ(FileNames(Folder()), (Texts{".c", "a", "B", "б", "В"}));
     EXPECT_TRUE(FileNames(Folder() + "none").empty());
 }
 
 TEST_F(Files, ANameThatLeavesTheFolderOrCannotBeHeldIsRefused)
 {
     const std::string longest = std::string(125, 'n') + std::string(65 * 2, 'n');
-    for (const std::string& name : {std::string("игра.QVS"), std::string(" "), longest}) {
+    for (const std::string& name : Texts{"игра.QVS", " ", longest}) {
         EXPECT_TRUE(IsPossibleFileName(name)) << name;
         ReplaceFile(Folder() + name, "");
     }
     for (const std::string& name :
-         {std::string(), std::string("."), std::string(".."), std::string("a/b"),
-          std::string("a\\b"), std::string("a\0b", 3), longest + "n", std::string("\xD0")}) {
+         Texts{"", ".", "..", "a/b", "a\\b", {"a\0b", 3}, longest + "n", "\xD0"}) {
         EXPECT_FALSE(IsPossibleFileName(name)) << name;
     }
 }

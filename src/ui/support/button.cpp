@@ -165,7 +165,7 @@ void GameButton::keyPressEvent(QKeyEvent* event)
     }
     if (enter) {
         if (enterPresses) {
-            animateClick();
+            click();
         }
         event->accept();
         return;

@@ -31,7 +31,7 @@ void EquipmentShop::Load()
         Choice(index).ShowText(Text(offer.caption));
         prices[index] = offer.price;
         if (!offer.available) { // loading never enables a button again
-            Choice(index).setEnabled(false);
+            SetUsable(Choice(index), false);
         }
     }
     ActivityWindow::Load();

@@ -61,12 +61,27 @@ void GameWindow::AddSlogan(const QString& name, const QString& shadowName, const
 
 GameButton* GameWindow::AddBack(const QString& name, const QString& caption)
 {
-    GameButton* back = AddButton(name, caption,
-                                 {widthUnits - Margin - BackWidth,
-                                  heightUnits - Margin - BackHeight, BackWidth, BackHeight});
+    back = AddButton(name, caption,
+                     {widthUnits - Margin - BackWidth, heightUnits - Margin - BackHeight, BackWidth,
+                      BackHeight});
     back->SetGlyph(Glyph::Back);
     connect(back, &QAbstractButton::clicked, this, &GameWindow::reject);
     return back;
+}
+
+void GameWindow::SetUsable(QWidget& control, bool usable)
+{
+    if (!usable && back && control.hasFocus()) {
+        back->setFocus();
+        focusTakenFrom = &control;
+    }
+    control.setEnabled(usable);
+    if (usable && focusTakenFrom == &control) {
+        focusTakenFrom = nullptr;
+        if (back->hasFocus()) {
+            control.setFocus();
+        }
+    }
 }
 
 void GameWindow::TabThrough(std::initializer_list<QWidget*> order)

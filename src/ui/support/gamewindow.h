@@ -43,6 +43,11 @@ protected:
     /// "Назад" in its usual corner: bottom right.
     GameButton* AddBack(const QString& name, const QString& caption = "Назад");
 
+    /// Enables or disables a control. The focus of a disabled one waits on
+    /// "Назад": the toolkit would hand it to the next button, and one stroke
+    /// too many would press that.
+    void SetUsable(QWidget& control, bool usable);
+
     /// Tab goes through these in order.
     static void TabThrough(std::initializer_list<QWidget*> order);
 
@@ -51,6 +56,8 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    GameButton* back = nullptr;
+    const QWidget* focusTakenFrom = nullptr;
     Scene* scene;
     double widthUnits, heightUnits;
 };
