@@ -1,5 +1,6 @@
 #include "support/life.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <map>
 
@@ -91,10 +92,11 @@ std::string Life::LabelShown(Label label) const
 
 Texts Life::ShownBy(const Changes& changes)
 {
-    std::map<Label, int> now{{lblMoney, GameState.Money.value()},
-                             {lblHappy, GameState.Happy.value()},
-                             {lblHealth, GameState.Health.value()},
-                             {lblEat, GameState.EatLevel.value()}};
+    // Wider than the money, whose deepest debt a row may go below.
+    std::map<Label, std::int64_t> now{{lblMoney, GameState.Money.value()},
+                                      {lblHappy, GameState.Happy.value()},
+                                      {lblHealth, GameState.Health.value()},
+                                      {lblEat, GameState.EatLevel.value()}};
     Texts shown;
     for (const auto& [label, by] : changes) {
         const std::string number = std::to_string(now.at(label) += by);
