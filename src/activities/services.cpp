@@ -3,8 +3,8 @@
 #include <array>
 
 #include "core/GameState.h"
-#include "core/errors.h"
-#include "core/outside.h"
+#include "core/traps.h"
+#include "core/waits.h"
 
 namespace torvenhall
 {

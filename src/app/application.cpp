@@ -4,10 +4,10 @@
 
 #include <exception>
 
-#include "core/entry.h"
-#include "core/errors.h"
 #include "core/life.h"
-#include "ui/support/pictures.h"
+#include "core/traps.h"
+#include "game/entry.h"
+#include "ui/widgets/pictures.h"
 
 namespace torvenhall
 {

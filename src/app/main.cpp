@@ -8,14 +8,14 @@
 
 #include "app/application.h"
 #include "app/tour.h"
-#include "core/entry.h"
-#include "core/newgame.h"
 #include "core/random.h"
+#include "game/entry.h"
+#include "game/newgame.h"
 #include "system/basSystem.h"
-#include "ui/support/QtFrontEnd.h"
-#include "ui/support/metrics.h"
-#include "ui/support/text.h"
-#include "ui/support/theme.h"
+#include "ui/QtFrontEnd.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/qtext.h"
+#include "ui/widgets/theme.h"
 
 namespace
 {

@@ -12,18 +12,18 @@
 
 #include "activities/work.h"
 #include "core/basGame.h"
-#include "core/clock.h"
-#include "core/entry.h"
-#include "core/outside.h"
 #include "core/timelabel.h"
+#include "core/waits.h"
 #include "equipment/basEquipment.h"
 #include "events/family.h"
+#include "game/clock.h"
+#include "game/entry.h"
 #include "network/network.h"
+#include "ui/QtFrontEnd.h"
 #include "ui/frmLang.h"
 #include "ui/frmMain.h"
-#include "ui/support/QtFrontEnd.h"
-#include "ui/support/gamewindow.h"
-#include "ui/support/text.h"
+#include "ui/widgets/gamewindow.h"
+#include "ui/widgets/qtext.h"
 
 namespace torvenhall
 {

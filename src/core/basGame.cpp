@@ -4,7 +4,7 @@
 #include <string>
 
 #include "core/life.h"
-#include "core/outside.h"
+#include "core/waits.h"
 #include "system/convert.h"
 
 namespace torvenhall

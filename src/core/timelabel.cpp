@@ -1,7 +1,7 @@
 #include "core/timelabel.h"
 
 #include "core/GameState.h"
-#include "core/outside.h"
+#include "core/waits.h"
 
 namespace torvenhall
 {

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "core/basGame.h"
-#include "core/errors.h"
-#include "core/outside.h"
+#include "core/traps.h"
+#include "core/waits.h"
 #include "equipment/catalogue.h"
 #include "equipment/requirements.h"
 #include "system/convert.h"

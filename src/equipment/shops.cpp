@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/errors.h"
+#include "core/traps.h"
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
 #include "system/convert.h"

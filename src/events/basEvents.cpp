@@ -5,11 +5,11 @@
 
 #include "core/basGame.h"
 #include "core/changes.h"
-#include "core/errors.h"
-#include "core/outside.h"
+#include "core/draw.h"
+#include "core/traps.h"
+#include "core/waits.h"
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
-#include "events/draw.h"
 #include "events/message.h"
 
 namespace torvenhall

@@ -6,9 +6,9 @@
 #include "activities/work.h"
 #include "core/basGame.h"
 #include "core/changes.h"
-#include "core/errors.h"
-#include "core/outside.h"
-#include "events/draw.h"
+#include "core/draw.h"
+#include "core/traps.h"
+#include "core/waits.h"
 #include "events/family.h"
 #include "events/message.h"
 

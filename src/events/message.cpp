@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/outside.h"
+#include "core/waits.h"
 #include "system/text.h"
 
 namespace torvenhall

@@ -5,9 +5,9 @@
 
 #include "core/GameState.h"
 #include "core/basGame.h"
-#include "core/errors.h"
 #include "core/life.h"
-#include "core/outside.h"
+#include "core/traps.h"
+#include "core/waits.h"
 #include "equipment/basEquipment.h"
 #include "system/convert.h"
 

@@ -3,8 +3,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/errors.h"
-#include "core/outside.h"
+#include "core/traps.h"
+#include "core/waits.h"
 #include "system/basSystem.h"
 #include "system/checked.h"
 #include "system/codepage.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "core/errors.h"
+#include "core/traps.h"
 #include "system/codepage.h"
 #include "system/files.h"
 #include "system/text.h"

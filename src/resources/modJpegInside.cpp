@@ -1,7 +1,7 @@
 #include "resources/modJpegInside.h"
 
-#include "core/errors.h"
-#include "core/outside.h"
+#include "core/traps.h"
+#include "core/waits.h"
 #include "system/basSystem.h"
 
 namespace torvenhall

@@ -6,10 +6,10 @@
 
 #include "activities/work.h"
 #include "core/basGame.h"
-#include "core/errors.h"
 #include "core/life.h"
-#include "core/outside.h"
 #include "core/timelabel.h"
+#include "core/traps.h"
+#include "core/waits.h"
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
 #include "events/family.h"

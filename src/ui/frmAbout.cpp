@@ -1,9 +1,9 @@
 #include "ui/frmAbout.h"
 
-#include "core/programs.h"
-#include "ui/support/metrics.h"
-#include "ui/support/pictures.h"
-#include "ui/support/theme.h"
+#include "game/programs.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/pictures.h"
+#include "ui/widgets/theme.h"
 
 namespace torvenhall
 {

@@ -1,8 +1,8 @@
 #include "ui/frmEducation.h"
 
 #include "activities/education.h"
-#include "ui/support/metrics.h"
-#include "ui/support/text.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/qtext.h"
 
 namespace torvenhall
 {

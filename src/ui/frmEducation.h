@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/support/activitywindow.h"
+#include "ui/widgets/activitywindow.h"
 
 namespace torvenhall
 {

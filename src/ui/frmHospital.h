@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/support/servicewindow.h"
+#include "ui/widgets/serviceseller.h"
 
 namespace torvenhall
 {

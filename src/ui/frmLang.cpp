@@ -5,9 +5,9 @@
 #include <QPlainTextEdit>
 
 #include "resources/basLangMGR.h"
-#include "ui/support/metrics.h"
-#include "ui/support/text.h"
-#include "ui/support/theme.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/qtext.h"
+#include "ui/widgets/theme.h"
 
 namespace torvenhall
 {

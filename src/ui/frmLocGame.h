@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/port.h"
-#include "ui/support/gamewindow.h"
+#include "ui/widgets/gamewindow.h"
 
 class QLineEdit;
 class QListWidget;

@@ -10,14 +10,14 @@
 
 #include "core/GameState.h"
 #include "core/basGame.h"
-#include "core/cheats.h"
-#include "core/clock.h"
-#include "core/commands.h"
-#include "core/entry.h"
-#include "ui/support/button.h"
-#include "ui/support/metrics.h"
-#include "ui/support/text.h"
-#include "ui/support/theme.h"
+#include "game/cheats.h"
+#include "game/clock.h"
+#include "game/commands.h"
+#include "game/entry.h"
+#include "ui/widgets/button.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/qtext.h"
+#include "ui/widgets/theme.h"
 
 namespace torvenhall
 {

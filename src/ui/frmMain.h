@@ -6,11 +6,11 @@
 #include <functional>
 
 #include "core/port.h"
-#include "ui/support/board.h"
-#include "ui/support/gauge.h"
-#include "ui/support/glyphs.h"
-#include "ui/support/label.h"
-#include "ui/support/scene.h"
+#include "ui/widgets/board.h"
+#include "ui/widgets/gauge.h"
+#include "ui/widgets/glyphs.h"
+#include "ui/widgets/label.h"
+#include "ui/widgets/scene.h"
 
 class QMenu;
 class QTimer;

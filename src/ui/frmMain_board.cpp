@@ -1,12 +1,12 @@
 // The dashboard of the main window: what stands where. All places in units.
 
-#include "core/commands.h"
-#include "core/entry.h"
+#include "game/commands.h"
+#include "game/entry.h"
 #include "ui/frmMain.h"
-#include "ui/support/button.h"
-#include "ui/support/metrics.h"
-#include "ui/support/text.h"
-#include "ui/support/theme.h"
+#include "ui/widgets/button.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/qtext.h"
+#include "ui/widgets/theme.h"
 
 namespace torvenhall
 {

@@ -3,10 +3,10 @@
 #include <QMenuBar>
 
 #include "core/basGame.h"
-#include "core/commands.h"
-#include "core/entry.h"
-#include "core/newgame.h"
-#include "core/programs.h"
+#include "game/commands.h"
+#include "game/entry.h"
+#include "game/newgame.h"
+#include "game/programs.h"
 #include "savegame/savegame.h"
 #include "ui/frmMain.h"
 

@@ -4,12 +4,12 @@
 #include <QTextEdit>
 #include <QTimer>
 
-#include "core/errors.h"
+#include "core/traps.h"
 #include "network/network.h"
 #include "resources/anecdotes.h"
-#include "ui/support/metrics.h"
-#include "ui/support/text.h"
-#include "ui/support/theme.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/qtext.h"
+#include "ui/widgets/theme.h"
 
 namespace torvenhall
 {

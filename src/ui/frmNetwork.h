@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "ui/support/activitywindow.h"
+#include "ui/widgets/activitywindow.h"
 
 class QTextEdit;
 class QTimer;

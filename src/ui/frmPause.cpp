@@ -1,9 +1,9 @@
 #include "ui/frmPause.h"
 
-#include "core/clock.h"
 #include "core/port.h"
+#include "game/clock.h"
 #include "savegame/savegame.h"
-#include "ui/support/pictures.h"
+#include "ui/widgets/pictures.h"
 
 namespace torvenhall
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/support/gamewindow.h"
+#include "ui/widgets/gamewindow.h"
 
 namespace torvenhall
 {

@@ -6,10 +6,10 @@
 #include <QLineEdit>
 #include <QTimer>
 
-#include "ui/support/metrics.h"
-#include "ui/support/pictures.h"
-#include "ui/support/text.h"
-#include "ui/support/theme.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/pictures.h"
+#include "ui/widgets/qtext.h"
+#include "ui/widgets/theme.h"
 
 namespace torvenhall
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/support/equipmentwindow.h"
+#include "ui/widgets/equipmentshop.h"
 
 namespace torvenhall
 {

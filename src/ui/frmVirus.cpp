@@ -1,9 +1,9 @@
 #include "ui/frmVirus.h"
 
 #include "activities/virus.h"
-#include "ui/support/metrics.h"
-#include "ui/support/pictures.h"
-#include "ui/support/theme.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/pictures.h"
+#include "ui/widgets/theme.h"
 
 namespace torvenhall
 {

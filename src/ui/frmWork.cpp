@@ -1,7 +1,7 @@
 #include "ui/frmWork.h"
 
 #include "activities/work.h"
-#include "ui/support/text.h"
+#include "ui/widgets/qtext.h"
 
 namespace torvenhall
 {

@@ -4,7 +4,7 @@
 #include <map>
 
 #include "core/basGame.h"
-#include "core/entry.h"
+#include "game/entry.h"
 #include "support/life.h"
 
 namespace torvenhall::test

@@ -2,7 +2,7 @@
 // while they are open.
 
 #include "activities/services.h"
-#include "core/outside.h"
+#include "core/waits.h"
 #include "equipment/basEquipment.h"
 #include "support/play.h"
 

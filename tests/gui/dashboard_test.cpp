@@ -3,10 +3,10 @@
 #include <QLabel>
 #include <QTextDocumentFragment>
 
-#include "core/outside.h"
+#include "core/waits.h"
 #include "support/play.h"
-#include "ui/support/metrics.h"
-#include "ui/support/text.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/qtext.h"
 
 namespace torvenhall::test
 {

@@ -4,8 +4,8 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 
-#include "core/errors.h"
-#include "core/outside.h"
+#include "core/traps.h"
+#include "core/waits.h"
 #include "support/play.h"
 
 namespace torvenhall::test

@@ -8,7 +8,7 @@
 
 #include "network/network.h"
 #include "support/play.h"
-#include "ui/support/metrics.h"
+#include "ui/widgets/metrics.h"
 
 namespace torvenhall::test
 {

@@ -3,8 +3,8 @@
 
 #include <QLineEdit>
 
-#include "core/newgame.h"
 #include "equipment/basEquipment.h"
+#include "game/newgame.h"
 #include "support/play.h"
 
 namespace torvenhall::test

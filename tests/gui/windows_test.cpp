@@ -13,10 +13,10 @@
 #include "ui/frmEducation.h"
 #include "ui/frmHard.h"
 #include "ui/frmSoft.h"
-#include "ui/support/boxes.h"
-#include "ui/support/metrics.h"
-#include "ui/support/text.h"
-#include "ui/support/theme.h"
+#include "ui/widgets/boxes.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/qtext.h"
+#include "ui/widgets/theme.h"
 
 namespace torvenhall::test
 {

@@ -1,10 +1,10 @@
 #include "network/network.h"
 
 #include "core/basGame.h"
-#include "core/commands.h"
-#include "core/entry.h"
 #include "core/life.h"
 #include "equipment/basEquipment.h"
+#include "game/commands.h"
+#include "game/entry.h"
 #include "support/life.h"
 #include "system/convert.h"
 

@@ -5,8 +5,8 @@
 #include <map>
 #include <set>
 
-#include "core/errors.h"
 #include "core/random.h"
+#include "core/traps.h"
 #include "support/life.h"
 #include "system/basSystem.h"
 #include "system/codepage.h"

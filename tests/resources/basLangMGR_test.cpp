@@ -1,6 +1,6 @@
 #include "resources/basLangMGR.h"
 
-#include "core/errors.h"
+#include "core/traps.h"
 #include "support/life.h"
 #include "system/codepage.h"
 #include "system/files.h"

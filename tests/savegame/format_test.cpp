@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/errors.h"
+#include "core/traps.h"
 #include "savegame/known_life.h"
 #include "system/basSystem.h"
 

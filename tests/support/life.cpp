@@ -5,10 +5,10 @@
 #include <map>
 
 #include "core/basGame.h"
-#include "core/entry.h"
 #include "core/life.h"
-#include "core/newgame.h"
-#include "core/outside.h"
+#include "core/waits.h"
+#include "game/entry.h"
+#include "game/newgame.h"
 #include "network/network.h"
 #include "system/basSystem.h"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/errors.h"
+#include "core/traps.h"
 
 namespace torvenhall::test
 {

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-#include "core/errors.h"
+#include "core/traps.h"
 
 namespace torvenhall::test
 {

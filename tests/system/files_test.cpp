@@ -11,7 +11,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "core/errors.h"
+#include "core/traps.h"
 #include "support/life.h"
 #include "system/basSystem.h"
 

@@ -10,9 +10,9 @@
 #include <optional>
 
 #include "support/play.h"
-#include "ui/support/button.h"
-#include "ui/support/label.h"
-#include "ui/support/metrics.h"
+#include "ui/widgets/button.h"
+#include "ui/widgets/label.h"
+#include "ui/widgets/metrics.h"
 
 namespace torvenhall::test
 {

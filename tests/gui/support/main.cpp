@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "app/application.h"
-#include "ui/support/metrics.h"
-#include "ui/support/theme.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/theme.h"
 
 int main(int argc, char** argv)
 {

@@ -10,11 +10,11 @@
 #include <QWindow>
 
 #include "core/life.h"
-#include "core/newgame.h"
-#include "core/outside.h"
+#include "core/waits.h"
+#include "game/newgame.h"
 #include "network/network.h"
 #include "system/basSystem.h"
-#include "ui/support/text.h"
+#include "ui/widgets/qtext.h"
 
 void PrintTo(const QString& text, std::ostream* out)
 {

@@ -14,11 +14,11 @@
 
 #include "core/GameState.h"
 #include "core/basGame.h"
-#include "core/entry.h"
+#include "game/entry.h"
 #include "support/scripted.h"
+#include "ui/QtFrontEnd.h"
+#include "ui/QtWallClock.h"
 #include "ui/frmMain.h"
-#include "ui/support/QtFrontEnd.h"
-#include "ui/support/QtWallClock.h"
 
 void PrintTo(const QString& text, std::ostream* out);
 

@@ -2,7 +2,7 @@
 
 #include "activities/work.h"
 #include "core/GameState.h"
-#include "core/outside.h"
+#include "core/waits.h"
 #include "equipment/catalogue.h"
 #include "ui/frmAbout.h"
 #include "ui/frmEducation.h"
@@ -18,7 +18,7 @@
 #include "ui/frmSoft.h"
 #include "ui/frmVirus.h"
 #include "ui/frmWork.h"
-#include "ui/support/text.h"
+#include "ui/widgets/qtext.h"
 
 namespace torvenhall::test
 {

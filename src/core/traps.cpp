@@ -1,0 +1,34 @@
+#include "core/traps.h"
+
+#include "core/waits.h"
+#include "system/convert.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+std::string ErrorMessage(int number, const std::string& what)
+{
+    if (number == error::OutOfMemory) {
+        return "Системная ошибка: Недостаточно памяти для выполнения команды. "
+               "Закройте часть приложений и повторите попытку";
+    }
+    if (number == error::TypeMismatch) {
+        return "Ошибка приложения или системная ошибка: Несовпадение типов данных! "
+               "Обратитесь к разработчику! Программа может работать некорректно.";
+    }
+    const std::string description = ErrorDescription(number) + (what.empty() ? "" : ": " + what);
+    return "Возникла непредвиденная ошибка № " + Decimal(number) + " : " + description +
+           ". Программа может некорректно работать. Обратитесь к разработчику!";
+}
+
+} // namespace
+
+void ReportError(int number, const std::string& what)
+{
+    MsgBox(ErrorMessage(number, what), "Torvenhall", Icon::Critical);
+}
+
+} // namespace torvenhall

@@ -1,0 +1,36 @@
+#include "game/commands.h"
+
+#include <string>
+
+#include "core/GameState.h"
+#include "core/life.h"
+#include "core/waits.h"
+#include "network/network.h"
+#include "savegame/savegame.h"
+#include "system/basSystem.h"
+
+namespace torvenhall
+{
+
+void GoOnline()
+{
+    if (GameState.HardComm >= 1 && GameState.SoftBrowser >= 1) {
+        SayTrueStatus();
+        Windows().OpenWindow(Window::frmNetwork);
+    } else {
+        // The message names a system that is not asked for, on purpose.
+        MsgBox("Установи 9600 bps модем, Microsoft Windows 95 и Mirosoft Internet Explorer 3.0",
+               "Слабая машинка", Icon::Information);
+    }
+}
+
+void CloseProgram()
+{
+    if (MsgBox("Сохранить игру сейчас???", "Вопрос", Icon::Question, Buttons::YesNo) ==
+        Answer::Yes) {
+        SaveGame();
+    }
+    EndProgram();
+}
+
+} // namespace torvenhall

@@ -1,0 +1,56 @@
+#include "game/entry.h"
+
+#include <exception>
+
+#include "core/life.h"
+#include "core/traps.h"
+#include "game/clock.h"
+#include "game/newgame.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+/// Runs a body and lets nothing out of it; true when a life ended in it.
+bool LifeEndsIn(const std::function<void()>& body)
+{
+    try {
+        body();
+    } catch (const LifeEnd&) {
+        return true;
+    } catch (const LifeAbandoned&) {
+    } catch (const ProgramEnd&) {
+    } catch (const RuntimeError&) {
+        // A window's handler skips what fails.
+    } catch (const std::exception&) {
+        // The same for what the language's own library throws.
+    }
+    return false;
+}
+
+void Enter(Entry entry, const std::function<void()>& body)
+{
+    if (ProgramHasEnded()) {
+        return;
+    }
+    const EntryScope scope(entry);
+    if (LifeEndsIn(body)) {
+        LifeEndsIn(NewGame);
+    }
+}
+
+} // namespace
+
+void EnterRules(const std::function<void()>& handler)
+{
+    Enter(Entry::Handler, handler);
+}
+
+void EnterTick()
+{
+    Enter(Entry::Tick, ClockTick);
+}
+
+} // namespace torvenhall

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "ui/widgets/glyphs.h"
+
+namespace torvenhall
+{
+
+/// The game's own button: distinct when normal, hovered, pressed, focused,
+/// disabled and muted. Never a dialog's default button.
+class GameButton : public QPushButton
+{
+public:
+    GameButton(const QString& controlName, const QString& caption, QWidget* parent);
+
+    void SetGlyph(Glyph newGlyph);
+    void SetAlignment(Qt::Alignment newAlignment) { alignment = newAlignment; }
+    /// Looks out of reach (the money does not suffice) but can be clicked.
+    void SetMuted(bool newMuted);
+    bool IsMuted() const { return muted; }
+    /// Whether Enter presses the focused button as Space does. Off for a
+    /// button that costs money: Enter closes boxes, and one stroke too many
+    /// would buy.
+    void SetEnterPresses(bool presses) { enterPresses = presses; }
+    /// Sets the caption unless it is shown already.
+    void ShowText(const QString& caption);
+    /// Whether the whole caption is on screen.
+    bool TextFits() const;
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QRectF TextPlace() const;
+    void PaintFace(QPainter& painter) const;
+    QColor Ink() const;
+
+    Glyph glyph = Glyph::None;
+    Qt::Alignment alignment = Qt::AlignCenter;
+    bool muted = false;
+    bool enterPresses = true;
+};
+
+} // namespace torvenhall

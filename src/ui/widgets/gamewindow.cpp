@@ -1,0 +1,116 @@
+#include "ui/widgets/gamewindow.h"
+
+#include <QCloseEvent>
+
+#include "game/entry.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/theme.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+constexpr double BackWidth = 104;
+constexpr double BackHeight = 30;
+constexpr double Margin = 14;
+} // namespace
+
+GameWindow::GameWindow(const QString& name, double width, double height, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      scene(new Scene(width, height, this)), widthUnits(width), heightUnits(height)
+{
+    setObjectName(name);
+    setFixedSize(scene->size());
+    setSizeGripEnabled(false);
+}
+
+void GameWindow::Act(const std::function<void()>& call)
+{
+    EnterRules(call);
+}
+
+GameLabel* GameWindow::AddLabel(const QString& name, const QString& text, const QRectF& place,
+                                const QFont& font)
+{
+    auto* label = new GameLabel(name, font, scene);
+    label->setGeometry(PxRect(place));
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    label->ShowText(text);
+    return label;
+}
+
+GameButton* GameWindow::AddButton(const QString& name, const QString& caption, const QRectF& place)
+{
+    auto* button = new GameButton(name, caption, scene);
+    button->setGeometry(PxRect(place));
+    return button;
+}
+
+void GameWindow::AddSlogan(const QString& name, const QString& shadowName, const QString& text,
+                           const QRectF& place, double height)
+{
+    const QFont font = TextFont(height, true);
+    scene->AddPanel({0, 0, widthUnits, place.bottom() + 26}, Scene::Panel::Shade);
+    GameLabel* shadow = AddLabel(shadowName, text, place.translated(1.6, 1.8), font);
+    shadow->SetColour(QColor(0, 0, 0, 210));
+    GameLabel* slogan = AddLabel(name, text, place, font);
+    slogan->SetColour(colour::LightCyan);
+}
+
+GameButton* GameWindow::AddBack(const QString& name, const QString& caption)
+{
+    back = AddButton(name, caption,
+                     {widthUnits - Margin - BackWidth, heightUnits - Margin - BackHeight, BackWidth,
+                      BackHeight});
+    back->SetGlyph(Glyph::Back);
+    connect(back, &QAbstractButton::clicked, this, &GameWindow::reject);
+    return back;
+}
+
+void GameWindow::SetUsable(QWidget& control, bool usable)
+{
+    if (!usable && back && control.hasFocus()) {
+        back->setFocus();
+        focusTakenFrom = &control;
+    }
+    control.setEnabled(usable);
+    if (usable && focusTakenFrom == &control) {
+        focusTakenFrom = nullptr;
+        if (back->hasFocus()) {
+            control.setFocus();
+        }
+    }
+}
+
+void GameWindow::TabThrough(std::initializer_list<QWidget*> order)
+{
+    for (auto each = order.begin(); each + 1 < order.end(); ++each) {
+        setTabOrder(each[0], each[1]);
+    }
+}
+
+void GameWindow::reject()
+{
+    if (Closable()) {
+        QDialog::reject();
+    }
+}
+
+void GameWindow::closeEvent(QCloseEvent* event)
+{
+    // The default would hide the window behind the back of `reject`.
+    event->ignore();
+    reject();
+}
+
+void GameWindow::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (QWidget* first = focusWidget(); !first) {
+        focusNextChild();
+    }
+}
+
+} // namespace torvenhall

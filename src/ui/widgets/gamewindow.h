@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QDialog>
+#include <QRectF>
+
+#include <functional>
+
+#include "ui/widgets/button.h"
+#include "ui/widgets/label.h"
+#include "ui/widgets/scene.h"
+
+namespace torvenhall
+{
+
+/// A window beside the main one: a fixed size, a scene, and controls placed
+/// in units.
+class GameWindow : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Size in units. The window's control name is also its class's.
+    GameWindow(const QString& name, double width, double height, QWidget* parent);
+
+    /// The window's load routine: what it shows is derived from the game anew.
+    virtual void Load() {}
+
+protected:
+    /// Whether the window takes Esc and its close box; what they mean is
+    /// `reject`.
+    virtual bool Closable() const { return true; }
+    /// Enters the rules with one call of theirs.
+    void Act(const std::function<void()>& call);
+
+    Scene& Surface() { return *scene; }
+    GameLabel* AddLabel(const QString& name, const QString& text, const QRectF& place,
+                        const QFont& font);
+    GameButton* AddButton(const QString& name, const QString& caption, const QRectF& place);
+    /// The slogan, drawn by two labels of the same text, the second one its
+    /// shadow.
+    void AddSlogan(const QString& name, const QString& shadowName, const QString& text,
+                   const QRectF& place, double height = 22);
+    /// "Назад" in its usual corner: bottom right.
+    GameButton* AddBack(const QString& name, const QString& caption = "Назад");
+
+    /// Enables or disables a control. The focus of a disabled one waits on
+    /// "Назад": the toolkit would hand it to the next button, and one stroke
+    /// too many would press that.
+    void SetUsable(QWidget& control, bool usable);
+
+    /// Tab goes through these in order.
+    static void TabThrough(std::initializer_list<QWidget*> order);
+
+    void reject() override;
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    GameButton* back = nullptr;
+    const QWidget* focusTakenFrom = nullptr;
+    Scene* scene;
+    double widthUnits, heightUnits;
+};
+
+} // namespace torvenhall

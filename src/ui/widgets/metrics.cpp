@@ -1,0 +1,104 @@
+#include "ui/widgets/metrics.h"
+
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QRegularExpression>
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+
+namespace torvenhall
+{
+
+namespace
+{
+
+constexpr double UsualPoints = 9;
+constexpr double UsualDpi = 96;
+constexpr double TwipsPerUnit = 15;
+
+double desktopPoints = UsualPoints;
+
+/// The first number that the pattern captures in a settings file, else 0.
+double NumberIn(const QString& path, const char* pattern)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    const QRegularExpression expression(QString::fromLatin1(pattern),
+                                        QRegularExpression::MultilineOption);
+    return expression.match(QString::fromUtf8(file.readAll())).captured(1).toDouble();
+}
+
+} // namespace
+
+void SetDesktopFontPoints(double points)
+{
+    desktopPoints = std::clamp(points, UsualPoints, UsualPoints * 3);
+}
+
+double DesktopFontPoints()
+{
+    // The toolkit's own look at the desktop's settings loads the desktop's
+    // whole toolkit at start-up, so the two files are read directly.
+    const QString config = qEnvironmentVariable("XDG_CONFIG_HOME", QDir::homePath() + "/.config");
+    const double kde = NumberIn(config + "/kdeglobals", "^font=[^,\\n]*,(\\d+)");
+    const double gtk =
+        NumberIn(config + "/gtk-3.0/settings.ini", "^gtk-font-name\\s*=.*?(\\d+)\\s*$");
+    const bool onKde = qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains("KDE");
+    const double points = onKde ? kde : gtk;
+    return points > 0 ? points : UsualPoints;
+}
+
+double UnitScale()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const double dpi = screen ? screen->logicalDotsPerInchX() : UsualDpi;
+    return dpi / UsualDpi * desktopPoints / UsualPoints;
+}
+
+int Px(double units)
+{
+    return static_cast<int>(std::lround(units * UnitScale()));
+}
+
+QRect PxRect(const QRectF& units)
+{
+    const QPoint topLeft(Px(units.left()), Px(units.top()));
+    const QPoint behind(Px(units.right()), Px(units.bottom()));
+    return {topLeft, behind - QPoint(1, 1)};
+}
+
+QSize PxSize(double width, double height)
+{
+    return {Px(width), Px(height)};
+}
+
+int TwipsPx(int twips)
+{
+    return Px(twips / TwipsPerUnit);
+}
+
+QFont TextFont(double units, bool bold)
+{
+    QFont font;
+    font.setFamilies({"Liberation Sans", "DejaVu Sans", "Arial", "sans-serif"});
+    font.setPixelSize(std::max(1, Px(units)));
+    font.setBold(bold);
+    return font;
+}
+
+QFont TerminalFont(double units, bool bold)
+{
+    QFont font;
+    font.setFamilies({"Liberation Mono", "DejaVu Sans Mono", "Consolas", "monospace"});
+    font.setStyleHint(QFont::Monospace);
+    font.setPixelSize(std::max(1, Px(units)));
+    font.setBold(bold);
+    return font;
+}
+
+} // namespace torvenhall

@@ -1,0 +1,114 @@
+#include "ui/widgets/pictures.h"
+
+#include <QBuffer>
+#include <QHash>
+#include <QImageReader>
+#include <QResource>
+
+#include <algorithm>
+#include <cmath>
+
+#include "resources/modJpegInside.h"
+#include "ui/widgets/qtext.h"
+
+// A library's resources are registered by name, which must be in the global
+// namespace.
+static void RegisterPictures()
+{
+    Q_INIT_RESOURCE(pictures);
+}
+
+namespace torvenhall
+{
+
+namespace
+{
+
+QPixmap Decode(const QByteArray& jpeg, QSize wanted, double pixelRatio)
+{
+    QBuffer buffer;
+    buffer.setData(jpeg);
+    QImageReader reader(&buffer, "jpeg");
+    const QSize pixels = wanted * pixelRatio;
+    const QSize scaled = reader.size().scaled(pixels, Qt::KeepAspectRatioByExpanding);
+    reader.setScaledSize(scaled);
+    const QPoint corner((scaled.width() - pixels.width()) / 2,
+                        (scaled.height() - pixels.height()) / 2);
+    reader.setScaledClipRect(QRect(corner, pixels));
+    QPixmap picture = QPixmap::fromImage(reader.read());
+    picture.setDevicePixelRatio(pixelRatio);
+    return picture;
+}
+
+QPixmap DecodeOnce(std::string_view name, const QByteArray& jpeg, QSize size, double pixelRatio)
+{
+    static QHash<QString, QPixmap> decoded;
+    const QString place =
+        QString("%1 %2x%3@%4").arg(Text(name)).arg(size.width()).arg(size.height()).arg(pixelRatio);
+    QPixmap& picture = decoded[place];
+    if (picture.isNull() && !jpeg.isEmpty()) {
+        picture = Decode(jpeg, size, pixelRatio);
+    }
+    return picture;
+}
+
+/// The pixel no brighter than a relative luminance, in its own hue.
+QRgb Dimmed(QRgb pixel, double brightest)
+{
+    const auto linear = [](int channel) { return std::pow(channel / 255.0, 2.2); };
+    const double luminance = 0.2126 * linear(qRed(pixel)) + 0.7152 * linear(qGreen(pixel)) +
+                             0.0722 * linear(qBlue(pixel));
+    if (luminance <= brightest) {
+        return pixel;
+    }
+    const double share = std::pow(brightest / luminance, 1 / 2.2);
+    const auto dim = [share](int channel) { return static_cast<int>(channel * share); };
+    return qRgb(dim(qRed(pixel)), dim(qGreen(pixel)), dim(qBlue(pixel)));
+}
+
+} // namespace
+
+QByteArray EmbeddedPicture(std::string_view name)
+{
+    static const bool registered = (RegisterPictures(), true);
+    Q_UNUSED(registered);
+    const QResource resource(":/JPEGINSIDEDATA/" + Text(name));
+    if (!resource.isValid()) {
+        return {};
+    }
+    return QByteArray::fromRawData(reinterpret_cast<const char*>(resource.data()), resource.size());
+}
+
+QPixmap LoadBackground(std::string_view key, QSize size, double pixelRatio)
+{
+    const std::span<const std::byte> bytes = LoadFormPicture(key);
+    const QByteArray jpeg = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
+                                                    static_cast<qsizetype>(bytes.size()));
+    return DecodeOnce(key, jpeg, size, pixelRatio);
+}
+
+QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio)
+{
+    return DecodeOnce(name, EmbeddedPicture(name), size, pixelRatio);
+}
+
+QPixmap Frosted(const QPixmap& picture, double brightest)
+{
+    // Shrinking and growing again is a blur that costs nothing at start-up.
+    const QImage image = picture.toImage();
+    const int blur = std::max(2, static_cast<int>(std::lround(7 * picture.devicePixelRatio())));
+    const QSize few(std::max(1, image.width() / blur), std::max(1, image.height() / blur));
+    QImage small = image.scaled(few, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                       .convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < small.height(); ++y) {
+        for (int x = 0; x < small.width(); ++x) {
+            small.setPixel(x, y, Dimmed(small.pixel(x, y), brightest));
+        }
+    }
+    QPixmap frosted = QPixmap::fromImage(
+        small.scaled(image.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    frosted.setDevicePixelRatio(picture.devicePixelRatio());
+    return frosted;
+}
+
+} // namespace torvenhall

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "activities/services.h"
+#include "ui/widgets/activitywindow.h"
+
+namespace torvenhall
+{
+
+/// A window that sells relief, made of its table.
+class ServiceSeller : public ActivityWindow
+{
+    Q_OBJECT
+
+public:
+    ServiceSeller(const char* name, const ServiceWindow& newTable, LabelBoard& board,
+                  QWidget* parent);
+
+protected:
+    void RefreshChoices() override;
+
+private:
+    const ServiceWindow& table;
+};
+
+} // namespace torvenhall
