@@ -1,6 +1,6 @@
 # shellcheck shell=bash disable=SC2034
 # What ./play and ./check share: finding and installing what they need, and
-# building quietly. Sourced by both; not a program of its own.
+# building with it. Sourced by both; not a program of its own.
 
 say() { printf '%s\n' "$*"; }
 fail() { printf '%s: %s\n' "${0##*/}" "$*" >&2; exit 1; }
@@ -14,17 +14,20 @@ cmake                   cmake
 ninja-build             ninja
 qt6-base-dev            -
 qt6-translations-l10n   -
+libboost-context-dev    -
 fonts-dejavu-core|fonts-liberation|fonts-liberation2    -
 "
 # What its tests need besides.
 readonly TEST_NEEDS="
 libgtest-dev            -
-xvfb                    Xvfb
+xvfb                    xvfb-run
+xauth                   xauth
 xdotool                 xdotool
 openbox                 openbox
 dbus-daemon             dbus-run-session
 at-spi2-core            -
 python3-pyatspi         -
+g++-mingw-w64-x86-64-posix  x86_64-w64-mingw32-g++-posix
 "
 readonly OLDEST_CMAKE=3.25
 
@@ -107,14 +110,16 @@ require_tools() {
 
 needs_in_words() {
     echo "The build needs a C++20 compiler, CMake $OLDEST_CMAKE, Ninja and the development files" \
-        "of Qt 6.4 (Debian: g++ cmake ninja-build qt6-base-dev)."
+        "of Qt 6.4 and Boost.Context" \
+        "(Debian: g++ cmake ninja-build qt6-base-dev libboost-context-dev)."
 }
 
 # Runs a command with its output in a log, which is shown when it fails.
 quietly() {
     local log=$1
     shift
-    if ! "$@" </dev/null >>"$log" 2>&1; then
+    mkdir -p "${log%/*}"
+    if ! "$@" </dev/null >"$log" 2>&1; then
         say "This failed: $*" >&2
         say "The end of its output ($log):" >&2
         tail -n 40 "$log" >&2
@@ -122,17 +127,7 @@ quietly() {
     fi
 }
 
-# Configures and builds a preset in build/PRESET, with the log beside it.
-build_preset() {
-    local preset=$1 log=build/$1.log
-    local launcher=()
-    if command -v ccache >/dev/null 2>&1; then
-        launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
-    fi
-    mkdir -p build
-    : >"$log"
-    quietly "$log" cmake --preset "$preset" "${launcher[@]}" ||
-        fail "the build could not be set up. $(needs_in_words)"
-    quietly "$log" cmake --build --preset "$preset" ||
-        fail "the build failed."
-}
+# A compiler's cache is used where there is one; precompiled headers want its leave.
+if command -v ccache >/dev/null 2>&1; then
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_SLOPPINESS=pch_defines,time_macros
+fi

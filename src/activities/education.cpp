@@ -1,20 +1,33 @@
 #include "activities/education.h"
 
-#include "core/GameState.h"
+#include "core/basGame.h"
+#include "core/port.h"
 
 namespace torvenhall
 {
+
+namespace
+{
+
+void Toggle(Int16& attendance)
+{
+    attendance = attendance == False ? True : False;
+    Windows().ReloadWindow(window::frmEducation);
+}
+
+} // namespace
 
 EducationButtons LoadEducation()
 {
     EducationButtons buttons;
     buttons.courses = GameState.AttendCourses == False ? "Ходить на курсы" : "Бросить эти курсы";
     buttons.school = GameState.AttendSchool == False ? "Ходить в школу" : "Бросить эту школу";
-    if (GameState.Education == 8) {
+    // Only the top itself is told; a higher rank or intelligence is not.
+    if (GameState.Education == TopRank) {
         buttons.coursesDone = true;
         buttons.courses = "Закончил эти курсы!";
     }
-    if (GameState.Intelligence == 100) {
+    if (GameState.Intelligence == FullIntelligence) {
         buttons.schoolDone = true;
         // The courses button announces the finished school, on purpose.
         buttons.courses = "Закончил эту школу!";
@@ -24,12 +37,12 @@ EducationButtons LoadEducation()
 
 void ToggleSchool()
 {
-    GameState.AttendSchool = GameState.AttendSchool == False ? True : False;
+    Toggle(GameState.AttendSchool);
 }
 
 void ToggleCourses()
 {
-    GameState.AttendCourses = GameState.AttendCourses == False ? True : False;
+    Toggle(GameState.AttendCourses);
 }
 
 } // namespace torvenhall

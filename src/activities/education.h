@@ -12,6 +12,7 @@ struct EducationButtons {
 };
 EducationButtons LoadEducation();
 
+/// Begin or end the attendance and load the education window anew.
 void ToggleSchool();
 void ToggleCourses();
 

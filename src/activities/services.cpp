@@ -1,7 +1,5 @@
 #include "activities/services.h"
 
-#include <array>
-
 #include "core/GameState.h"
 #include "core/traps.h"
 #include "core/waits.h"
@@ -12,52 +10,36 @@ namespace torvenhall
 namespace
 {
 
+using enum Stat;
+
 /// Its amount is the service's own price.
-constexpr Change Pay{Stat::Money, 0};
-
-constexpr Change Mood(int change)
-{
-    return {Stat::Happy, change};
-}
-
-constexpr Change Cure(int change)
-{
-    return {Stat::Health, change};
-}
-
-constexpr Change Food(int change)
-{
-    return {Stat::EatLevel, change};
-}
+constexpr Change Pay{Money, 0};
 
 constexpr std::array EntertainmentServices{
-    Service{"В казино - +20% - $25", 25, {Pay, Mood(20)}},
-    Service{"В ресторан - +25% - $50", 50, {Pay, Mood(25)}},
-    Service{"В сауну - +50% - $75", 75, {Pay, Mood(50)}},
-    Service{"5 мин. отдых - +5% - $5", 5, {Pay, Mood(5)}},
-    Service{"Перерыв - +10% - $15", 15, {Pay, Mood(10)}},
+    Service{"В казино - +20% - $25", 25, {{Pay, {Happy, 20}}}},
+    Service{"В ресторан - +25% - $50", 50, {{Pay, {Happy, 25}}}},
+    Service{"В сауну - +50% - $75", 75, {{Pay, {Happy, 50}}}},
+    Service{"5 мин. отдых - +5% - $5", 5, {{Pay, {Happy, 5}}}},
+    Service{"Перерыв - +10% - $15", 15, {{Pay, {Happy, 10}}}},
 };
-static_assert(EntertainmentServices.size() == 5);
 
 constexpr std::array HospitalServices{
-    Service{"Полный курс - +50% - $250", 250, {Cure(50), Pay}},
-    Service{"Лекарства - +15% - $100", 100, {Cure(15), Pay}},
-    Service{"Вывих - +2% - $20", 20, {Cure(2), Pay}},
-    Service{"Осмотр - +0% - $2", 2, {Cure(0), Pay}},
-    Service{"Роды - + 75% - 50%h - $250", 250, {Cure(75), Mood(-50), Pay}},
-    Service{"Выпить водки - +10 - $20", 20, {Cure(10), Pay}},
-    Service{"Выпить спирта+10+10h $25", 25, {Cure(10), Pay, Mood(10)}},
+    Service{"Полный курс - +50% - $250", 250, {{{Health, 50}, Pay}}},
+    Service{"Лекарства - +15% - $100", 100, {{{Health, 15}, Pay}}},
+    Service{"Вывих - +2% - $20", 20, {{{Health, 2}, Pay}}},
+    Service{"Осмотр - +0% - $2", 2, {{{Health, 0}, Pay}}},
+    Service{"Роды - + 75% - 50%h - $250", 250, {{{Health, 75}, {Happy, -50}, Pay}}},
+    Service{"Выпить водки - +10 - $20", 20, {{{Health, 10}, Pay}}},
+    Service{"Выпить спирта+10+10h $25", 25, {{{Health, 10}, Pay, {Happy, 10}}}},
 };
-static_assert(HospitalServices.size() == 7);
 
 constexpr std::array FoodShopServices{
-    Service{"Биг-Мак с сыром - +10% - $15", 15, {Food(10), Pay}},
-    Service{"Хэппи-Мил с детьми +20%-$45- -15%h", 45, {Food(20), Pay, Mood(-15)}},
-    Service{"Альпен Гольд с Нескафе - +50 $120", 120, {Food(50), Pay}},
-    Service{"Яичница с чесноком +15%-$10-20%h", 10, {Food(15), Pay, Mood(-20)}},
-    Service{"Просто нормально пожрать +75%-$60", 60, {Food(75), Pay}},
+    Service{"Биг-Мак с сыром - +10% - $15", 15, {{{EatLevel, 10}, Pay}}},
+    Service{"Хэппи-Мил с детьми +20%-$45- -15%h", 45, {{{EatLevel, 20}, Pay, {Happy, -15}}}},
+    Service{"Альпен Гольд с Нескафе - +50 $120", 120, {{{EatLevel, 50}, Pay}}},
+    Service{"Яичница с чесноком +15%-$10-20%h", 10, {{{EatLevel, 15}, Pay, {Happy, -20}}}},
+    Service{"Просто нормально пожрать +75%-$60", 60, {{{EatLevel, 75}, Pay}}},
 };
-static_assert(FoodShopServices.size() == 5);
 
 } // namespace
 
@@ -102,9 +84,7 @@ void BuyService(const ServiceWindow& window, std::size_t index)
         return;
     }
     for (const Change& change : service.changes) {
-        Trapped([&] {
-            Apply(change.stat == Stat::Money ? Change{Stat::Money, -service.price} : change);
-        });
+        Trapped([&] { Apply(change.stat == Money ? Change{Money, -service.price} : change); });
     }
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/basGame.h"
+#include "core/draw.h"
 #include "core/traps.h"
 #include "core/waits.h"
 #include "system/convert.h"
@@ -37,7 +38,7 @@ void FightVirus()
 {
     // The value to reseed from is drawn from the generator itself, on purpose.
     Randomize(Rnd() * 10.0F);
-    const Int16 luck = ToInt16(Round(double{Rnd()} * 10));
+    const Int16 luck = Draw(10);
     if (GameState.SoftAntivirus <= 0) {
         LoseMoney("Нет у вас антивируса! Вирус сожрал ");
     } else if (luck > 5) {

@@ -4,8 +4,8 @@
 
 #include <exception>
 
-#include "core/life.h"
 #include "core/traps.h"
+#include "core/unwinding.h"
 #include "game/entry.h"
 #include "ui/widgets/pictures.h"
 
@@ -37,20 +37,21 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {
-    const auto report = [](int number, const std::string& what) {
-        EnterRules([&] { ReportError(number, what); });
-    };
+    // Reported after the exception is gone: the box suspends its routine.
+    int number = 0;
     try {
         return QApplication::notify(receiver, event);
     } catch (const RuntimeError& caught) {
-        report(caught.number, caught.what);
+        number = caught.number;
     } catch (const std::bad_alloc&) {
-        report(error::OutOfMemory, {});
-    } catch (const std::exception& caught) {
-        report(error::InvalidCall, caught.what());
+        number = error::OutOfMemory;
+    } catch (const std::exception&) {
+        number = error::InvalidCall;
     } catch (const LifeEnd&) {
-    } catch (const LifeAbandoned&) {
-    } catch (const ProgramEnd&) {
+    } catch (const Abandoned&) {
+    }
+    if (number != 0) {
+        EnterRules([number] { ReportError(number); });
     }
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include <random>
@@ -53,7 +54,9 @@ int main(int argc, char** argv)
     const Options options = ReadOptions(application);
     SetDesktopFontPoints(options.fontPoints);
     ApplyTheme(application);
-    FindDirectories("../share/torvenhall");
+    FindDirectories(Utf8(QCoreApplication::applicationDirPath()), "../share/torvenhall",
+                    Utf8(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                         "/torvenhall"));
 
     const bool touring = !options.tourFolder.isEmpty();
     constexpr double tourPace = 40; // its waits are not to be sat through

@@ -12,6 +12,7 @@
 
 #include "activities/work.h"
 #include "core/basGame.h"
+#include "core/shown.h"
 #include "core/timelabel.h"
 #include "core/waits.h"
 #include "equipment/basEquipment.h"
@@ -22,8 +23,8 @@
 #include "ui/QtFrontEnd.h"
 #include "ui/frmLang.h"
 #include "ui/frmMain.h"
-#include "ui/widgets/gamewindow.h"
 #include "ui/widgets/qtext.h"
+#include "ui/windows.h"
 
 namespace torvenhall
 {
@@ -50,13 +51,10 @@ public:
     {
         VisitNameDialog();
         VisitMain();
-        for (const Window window : {Window::frmHard, Window::frmSoft, Window::frmHappy,
-                                    Window::frmHospital, Window::frmShop, Window::frmWork,
-                                    Window::frmEducation, Window::frmAbout, Window::frmPause}) {
-            Visit(window);
+        for (const WindowRow& row : WindowTable()) {
+            Visit(row.name);
         }
-        VisitNetwork();
-        VisitBlocking("frmVirus", [] { ShowVirusWindow(); });
+        VisitSites();
         VisitGameNames();
         VisitBoxes();
         frmLang languages(nullptr);
@@ -81,22 +79,20 @@ private:
         }
     }
 
-    /// Runs a call that waits, photographs what it opens and closes that.
-    void VisitBlocking(const QString& name, const std::function<void()>& call)
+    /// Begins a call that waits, photographs what it opens and closes that.
+    void VisitDialog(const QString& name, const std::function<void()>& call)
     {
-        QTimer::singleShot(0, qApp, [this, name] {
-            QWidget* opened = QApplication::activeModalWidget();
-            Save(name, opened);
-            if (auto* dialog = qobject_cast<QDialog*>(opened)) {
-                dialog->done(QDialog::Rejected);
-            }
-        });
         EnterRules(call);
+        QWidget* opened = QApplication::activeModalWidget();
+        Save(name, opened);
+        if (auto* dialog = qobject_cast<QDialog*>(opened)) {
+            dialog->done(QDialog::Rejected);
+        }
     }
 
     void VisitNameDialog()
     {
-        VisitBlocking("frmPlayerName", [] { AskName({"Введите Ваше имя", 1}); });
+        VisitDialog("frmPlayerName", [] { AskName({"Введите Ваше имя", 1}); });
     }
 
     static void LiveAwhile()
@@ -149,10 +145,10 @@ private:
         }
     }
 
-    void Visit(Window window)
+    void Visit(std::string_view window)
     {
         EnterRules([this, window] { frontEnd.OpenWindow(window); });
-        const QString name = Text(WindowName(window));
+        const QString name = Text(window);
         Save(name, Opened(name));
         frontEnd.CloseWindow(window);
     }
@@ -161,17 +157,19 @@ private:
     {
         for (QWidget* each : QApplication::topLevelWidgets()) {
             if (each->isVisible() && each->objectName() == name) {
-                return qobject_cast<GameWindow*>(each);
+                return dynamic_cast<GameWindow*>(each);
             }
         }
         return nullptr;
     }
 
-    void VisitNetwork()
+    void VisitSites()
     {
-        Visit(Window::frmNetwork);
-        EnterRules([this] { frontEnd.OpenWindow(Window::frmNetwork); });
+        EnterRules([this] { frontEnd.OpenWindow(window::frmNetwork); });
         EnterRules(DialInternet);
+        while (Network().InetConnected != True) {
+            Settle();
+        }
         GameWindow* window = Opened("frmNetwork");
         for (int i = 0; window && i < 3; ++i) {
             window->findChild<QAbstractButton*>(QString("cmdChangeLocation%1").arg(i))->click();
@@ -180,7 +178,7 @@ private:
             }
             Save(QString("frmNetwork-site%1").arg(i), window);
         }
-        frontEnd.CloseWindow(Window::frmNetwork);
+        frontEnd.CloseWindow(window::frmNetwork);
     }
 
     void VisitGameNames()
@@ -190,28 +188,28 @@ private:
         for (int i = 1; i <= 12; ++i) {
             question.games.push_back("игра " + std::to_string(i));
         }
-        VisitBlocking("frmLocGame-save", [&] { AskGameName(question); });
+        VisitDialog("frmLocGame-save", [&] { AskGameName(question); });
         question = {false, "Загрузка игры", "Доступные игры:", "Загрузить", "", question.games};
-        VisitBlocking("frmLocGame-load", [&] { AskGameName(question); });
+        VisitDialog("frmLocGame-load", [&] { AskGameName(question); });
     }
 
     void VisitBoxes()
     {
-        VisitBlocking("InputBox", [] { InputBox("Введите чит:", "Torvenhall 1.5"); });
-        VisitBlocking("box-question", [] {
+        VisitDialog("InputBox", [] { InputBox("Введите чит:", "Torvenhall 1.5"); });
+        VisitDialog("box-question", [] {
             MsgBox("Сохранить игру сейчас???", "Вопрос", Icon::Question, Buttons::YesNo);
         });
-        VisitBlocking("box-information",
-                      [] { MsgBox("Вам это не по карману", "Тонкий кошелёк", Icon::Information); });
-        VisitBlocking("box-long", [] {
+        VisitDialog("box-information",
+                    [] { MsgBox("Вам это не по карману", "Тонкий кошелёк", Icon::Information); });
+        VisitDialog("box-long", [] {
             MsgBox(
                 "Приобретите компьютер с Windows 98 и Adobe Photoshop 6 и сканером Mustek 600 CP, "
                 "станьте Ламером и поумнейте до 60%",
                 "Нифига!", Icon::Information);
         });
-        VisitBlocking("box-exclamation",
-                      [] { MsgBox("Введите корректное имя", "Внимание", Icon::Exclamation); });
-        VisitBlocking("box-critical", [] {
+        VisitDialog("box-exclamation",
+                    [] { MsgBox("Введите корректное имя", "Внимание", Icon::Exclamation); });
+        VisitDialog("box-critical", [] {
             MsgBox("Error 48: Picture not Exist or Data Damage Error", "JPEGInside Critical Error",
                    Icon::Critical);
         });

@@ -11,7 +11,7 @@ namespace torvenhall
 /// The whole game. Displayed fields change only through their setters
 /// (core/basGame.h, SetWork, SetSoftSize), which keep the main window current
 /// and check for death.
-struct GameStateRecord {
+struct Game {
     // Installed software: index into the category's list, 0 = none.
     Int16 SoftOS, SoftProgramming, SoftAntivirus, SoftGraphic, SoftBrowser, SoftGames;
     Int16 SoftSize; ///< other software, megabytes
@@ -47,6 +47,8 @@ struct GameStateRecord {
     Int16 CurrWork; ///< job 0..12
 };
 
-inline GameStateRecord GameState;
+/// Its short name, for rows of tables.
+
+inline Game GameState;
 
 } // namespace torvenhall

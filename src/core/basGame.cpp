@@ -1,9 +1,10 @@
 #include "core/basGame.h"
 
-#include <array>
 #include <string>
 
-#include "core/life.h"
+#include "core/running.h"
+#include "core/shown.h"
+#include "core/unwinding.h"
 #include "core/waits.h"
 #include "system/convert.h"
 
@@ -16,23 +17,28 @@ namespace
 /// One vital statistic; the bounds are meant to be uneven: a mood is shown
 /// light down to -100 though it kills at -75.
 struct Vital {
-    Int16 GameStateRecord::*field;
+    Int16 Game::*field;
     Label label;
     Int16 warning; ///< red below
     Int16 fatal;   ///< the life ends at or below
     std::string_view lastWords, title;
+    bool tellsTime = false; ///< of death, behind the last words
 };
 
-constexpr Vital HealthVital{&GameStateRecord::Health,
+constexpr Vital HealthVital{&Game::Health,
                             Label::lblHealth,
                             -30,
                             -50,
                             "Вы скончались от полученных травм. Время смерти -- ",
-                            "Дана Скали"};
-constexpr Vital EatVital{
-    &GameStateRecord::EatLevel,          Label::lblEat, -20, -35, "Вы умерли голодной смертью!",
-    "Желаю тебе быть большим и тольстым"};
-constexpr Vital HappyVital{&GameStateRecord::Happy,
+                            "Дана Скали",
+                            true};
+constexpr Vital EatVital{&Game::EatLevel,
+                         Label::lblEat,
+                         -20,
+                         -35,
+                         "Вы умерли голодной смертью!",
+                         "Желаю тебе быть большим и тольстым"};
+constexpr Vital HappyVital{&Game::Happy,
                            Label::lblHappy,
                            -100,
                            -75,
@@ -51,14 +57,10 @@ void Die(const Vital& vital)
         return;
     }
     std::string text(vital.lastWords);
-    if (&vital == &HealthVital) {
+    if (vital.tellsTime) {
         text += TimeText(GameState.GameTime);
     }
-    {
-        const Running lastBox(Running::What::LastBox);
-        MsgBox(text, vital.title, Icon::Information);
-    }
-    EndLife();
+    LastBox(text, vital.title, Icon::Information);
 }
 
 void SetVital(const Vital& vital, Int16 value)
@@ -76,11 +78,11 @@ struct Level {
     std::string_view caption;
 };
 
-constexpr std::array Levels{
-    Level{30000, "Сложность: Сложная"},
-    Level{10000, "Сложность: Нормальная"},
-    Level{5000, "Сложность: Лёгкая"},
-};
+constexpr ByLevel<Level> Levels{{
+    {30000, "Сложность: Сложная"},
+    {10000, "Сложность: Нормальная"},
+    {5000, "Сложность: Лёгкая"},
+}};
 
 struct Speed {
     int minutes;
@@ -92,9 +94,6 @@ constexpr std::array Speeds{
     Speed{30, "Скорость игры: Нормальная"},
     Speed{60, "Скорость игры: Быстрая"},
 };
-
-constexpr std::array<std::string_view, 8> RankWords{"BEGIN",   "USER",  "GAMER",  "LAMER",
-                                                    "PROG-ER", "ADMIN", "HACKER", "PROF"};
 
 } // namespace
 
@@ -133,10 +132,7 @@ void SetIntelligence(Int16 value)
 
 std::string_view ShowStatus(Int16 rank)
 {
-    if (rank < 1 || rank > static_cast<int>(RankWords.size())) {
-        return {};
-    }
-    return RankWords[static_cast<std::size_t>(rank.value() - 1)];
+    return FindOrEmpty(RankWords, Int32{rank} - 1);
 }
 
 void SetGameLevel(Int16& level)
@@ -147,13 +143,11 @@ void SetGameLevel(Int16& level)
                "Ты чё, ослеп???", Icon::Exclamation);
         level = 1;
     }
-    if (level < 0 || level >= static_cast<int>(Levels.size())) {
-        return;
+    if (const Level* chosen = Find(Levels, level)) {
+        GameState.WinMoney = chosen->winMoney;
+        GameState.GameLevel = level;
+        ShowLabel(Label::lblGameLevel, chosen->caption);
     }
-    const Level& chosen = Levels[static_cast<std::size_t>(level.value())];
-    GameState.WinMoney = chosen.winMoney;
-    GameState.GameLevel = level;
-    ShowLabel(Label::lblGameLevel, chosen.caption);
 }
 
 void SetGameSpeed(Int16 speed)

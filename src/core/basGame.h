@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <string_view>
 
 #include "core/GameState.h"
+#include "system/table.h"
 
 namespace torvenhall
 {
@@ -20,8 +22,25 @@ void SetEducation(Int16 value);
 /// Percent.
 void SetIntelligence(Int16 value);
 
-/// The rank's word, empty outside 1..8.
+/// The words of the status ranks, the first is rank 1.
+inline constexpr std::array<std::string_view, 8> RankWords{"BEGIN",   "USER",  "GAMER",  "LAMER",
+                                                           "PROG-ER", "ADMIN", "HACKER", "PROF"};
+inline constexpr int TopRank{RankWords.size()};
+static_assert(TopRank == 8, "jobs and saved games count on it");
+inline constexpr int FullIntelligence = 100; ///< percent
+
+/// The rank's word, empty outside 1..TopRank.
 std::string_view ShowStatus(Int16 rank);
+
+/// Something for each difficulty: hard, normal, easy.
+template <class Value>
+using ByLevel = std::array<Value, 3>;
+/// What the present difficulty has of it.
+template <class Value>
+const Value& OfLevel(const ByLevel<Value>& values)
+{
+    return At(values, GameState.GameLevel);
+}
 
 /// Difficulty 0 hard, 1 normal, 2 easy: sets WinMoney, GameLevel and the
 /// caption; other values change nothing. -1 (nothing selected) tells the

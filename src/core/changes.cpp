@@ -5,23 +5,28 @@
 namespace torvenhall
 {
 
+namespace
+{
+
+constexpr EnumArray<Stat, void (*)(int amount)> Setters{{
+    [](int) {},
+    [](int amount) { SetMoney(GameState.Money + amount); },
+    [](int amount) { SetHappy(GameState.Happy + amount); },
+    [](int amount) { SetHealth(GameState.Health + amount); },
+    [](int amount) { SetEatLevel(GameState.EatLevel + amount); },
+}};
+
+} // namespace
+
 void Apply(const Change& change)
 {
-    switch (change.stat) {
-    case Stat::None:
-        break;
-    case Stat::Money:
-        SetMoney(GameState.Money + change.amount);
-        break;
-    case Stat::Happy:
-        SetHappy(GameState.Happy + change.amount);
-        break;
-    case Stat::Health:
-        SetHealth(GameState.Health + change.amount);
-        break;
-    case Stat::EatLevel:
-        SetEatLevel(GameState.EatLevel + change.amount);
-        break;
+    Setters[change.stat](change.amount);
+}
+
+void ApplyAll(std::span<const Change> changes)
+{
+    for (const Change& change : changes) {
+        Apply(change);
     }
 }
 

@@ -1,9 +1,15 @@
 #pragma once
 
+#include <span>
+
+#include "system/table.h"
+
 namespace torvenhall
 {
 
 enum class Stat : unsigned char { None, Money, Happy, Health, EatLevel };
+template <>
+inline constexpr std::size_t CountOf<Stat> = 5;
 
 /// One setter call: the statistic's present value plus an amount.
 struct Change {
@@ -13,14 +19,7 @@ struct Change {
 
 /// Calls the setter; None does nothing. Error 6 when the sum overflows.
 void Apply(const Change& change);
-
 /// Calls the setters in the given order.
-template <class Changes>
-void ApplyAll(const Changes& changes)
-{
-    for (const Change& change : changes) {
-        Apply(change);
-    }
-}
+void ApplyAll(std::span<const Change> changes);
 
 } // namespace torvenhall

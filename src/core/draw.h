@@ -6,11 +6,11 @@
 namespace torvenhall
 {
 
-/// A whole number 0..sides drawn by rounding: the two ends are half as likely
-/// as the rest.
+/// A whole number 0..sides drawn by rounding half to even: the two ends are
+/// half as likely as the rest.
 inline Int16 Draw(int sides)
 {
-    return ToInt16(Round(double{Rnd()} * sides));
+    return ToInt16(double{Rnd()} * sides);
 }
 
 } // namespace torvenhall

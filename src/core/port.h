@@ -1,70 +1,27 @@
 #pragma once
 
-#include <cstddef>
+#include <functional>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/labels.h"
+
 namespace torvenhall
 {
 
-/// The main window's displays, by their controls' names.
-enum class Label : unsigned char {
-    lblMoney,
-    lblHappy,
-    lblEat,
-    lblHealth,
-    lblEducation,
-    lblStatus,
-    lblFamily,
-    lblCurrWork,
-    lblGameLevel,
-    lblGameSpeed,
-    lblTime,
-    lblMessage,
-    lblhard0,
-    lblhard1,
-    lblhard2,
-    lblhard3,
-    lblhard4,
-    lblhard5,
-    lblhard6,
-    lblhard7,
-    lblhard8,
-    lblOs,
-    lblProg,
-    lblAntiv,
-    lblGraphic,
-    lblInet,
-    lblGames,
-    lblOther,
-};
-inline constexpr std::size_t LabelCount = 28;
-
-/// "lblMoney" and so on; also the control's object name.
-std::string_view LabelName(Label label);
-
-enum class TextColour : unsigned char { LightCyan, Red };
-
-/// The windows that the rules open, refresh or close.
-enum class Window : unsigned char {
-    frmHard,
-    frmSoft,
-    frmHappy,
-    frmHospital,
-    frmShop,
-    frmWork,
-    frmEducation,
-    frmNetwork,
-    frmVirus,
-    frmPause,
-    frmAbout,
-};
-inline constexpr std::size_t WindowCount = 11;
-
-std::string_view WindowName(Window window);
+/// The names of the windows that the rules themselves open, refresh or close;
+/// the table of all is the windows' own (ui/windows.h).
+namespace window
+{
+inline constexpr std::string_view frmHard = "frmHard";
+inline constexpr std::string_view frmSoft = "frmSoft";
+inline constexpr std::string_view frmEducation = "frmEducation";
+inline constexpr std::string_view frmNetwork = "frmNetwork";
+inline constexpr std::string_view frmVirus = "frmVirus";
+inline constexpr std::string_view frmPause = "frmPause";
+} // namespace window
 
 enum class Icon : unsigned char { Information, Exclamation, Question, Critical };
 enum class Buttons : unsigned char { Ok, YesNo };
@@ -93,18 +50,22 @@ struct GameNameQuestion {
     std::vector<std::string> games;
 };
 
-/// Everything that the rules ask of the windows. Calls marked "waits" return
-/// when the player has answered; they handle window events meanwhile, so
-/// ticks and clicks may enter the rules again before they return. After
-/// `EndProgram` each of them returns at once.
+/// Everything that the rules ask of the windows. A call marked "waits" suspends
+/// the routine that made it, and nothing else, until its own answer or time is
+/// there; ticks and clicks may enter the rules meanwhile. After `EndProgram`
+/// each of them returns at once.
 class FrontEnd
 {
 public:
     virtual ~FrontEnd() = default;
 
-    /// Shows a text in a main-window label; makes the main window (hidden) if
-    /// there is none.
-    virtual void ShowLabel(Label label, std::string_view text, TextColour colour) = 0;
+    /// Runs a routine of the rules, which lets nothing be thrown out of it.
+    /// Returns when it has ended or waits.
+    virtual void Run(const std::function<void()>& routine) = 0;
+
+    /// A main-window label shows something new (core/shown.h); makes the main
+    /// window (hidden) if there is none.
+    virtual void LabelChanged(Label label) = 0;
 
     /// Waits.
     virtual Answer ShowMessageBox(const MessageBox& box) = 0;
@@ -114,36 +75,35 @@ public:
     virtual std::optional<NewPlayer> AskName(const NewPlayer& shown) = 0;
     /// Waits: the save and load dialog. Nothing when cancelled.
     virtual std::optional<std::string> AskGameName(const GameNameQuestion& question) = 0;
+    /// Waits so many seconds of the wall clock; may return sooner.
+    virtual void Wait(double seconds) = 0;
+    /// Makes every running `Wait` return soon.
+    virtual void EndPauses() = 0;
+
     /// Waits for the virus window to be closed; any other window opens at
     /// once, fresh, and the call returns. frmPause is brought to the front if
     /// it is open already.
-    virtual void OpenWindow(Window window) = 0;
-    virtual void CloseWindow(Window window) = 0;
-    virtual bool IsOpen(Window window) const = 0;
+    virtual void OpenWindow(std::string_view window) = 0;
+    virtual void CloseWindow(std::string_view window) = 0;
     /// Runs the window's load routine again, if it is open.
-    virtual void ReloadWindow(Window window) = 0;
+    virtual void ReloadWindow(std::string_view window) = 0;
     /// Disables a button by its control's name, if the window is open.
-    virtual void DisableButton(Window window, std::string_view control) = 0;
+    virtual void DisableButton(std::string_view window, std::string_view control) = 0;
 
     /// Closes every window, dialog and box, the last opened first and the
-    /// main window too; whatever waits in one of them returns.
+    /// main window too; whatever waits in one of them goes on.
     virtual void CloseAllWindows() = 0;
     virtual void ShowMainWindow() = 0;
     virtual void SetMainTitle(std::string_view title) = 0;
-    virtual void MinimiseMainWindow() = 0;
     /// tmrTime, the clock's timer of 250 ms.
     virtual void EnableTimer(bool enabled) = 0;
 
-    /// Handles window events for at most so many seconds of the wall clock;
-    /// may return sooner.
-    virtual void ProcessEvents(double seconds) = 0;
-
+    /// The full path of a program of that name; empty when there is none.
+    virtual std::string FindProgram(std::string_view name) = 0;
     /// Starts a program and does not wait for it; false when it did not start.
     virtual bool StartProgram(const std::string& program,
                               const std::vector<std::string>& arguments) = 0;
-    /// The bytes of a named picture carried in the program; empty if missing.
-    virtual std::span<const std::byte> FindPicture(std::string_view name) const = 0;
-    /// Makes every running wait return and the process end with exit code 0.
+    /// Makes everything that waits go on and the process end with exit code 0.
     virtual void EndProgram() = 0;
 };
 
@@ -177,7 +137,7 @@ struct Ports {
 /// Connects the rules to their surroundings; the objects must outlive every
 /// other call.
 void Connect(const Ports& ports);
-/// The connected windows. Calls that wait go through core/outside.h instead.
+/// The connected windows. Calls that wait go through core/waits.h instead.
 FrontEnd& Windows();
 
 float Rnd();

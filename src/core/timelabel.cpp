@@ -1,7 +1,7 @@
 #include "core/timelabel.h"
 
 #include "core/GameState.h"
-#include "core/waits.h"
+#include "core/shown.h"
 
 namespace torvenhall
 {

@@ -9,7 +9,7 @@ namespace torvenhall
 namespace
 {
 
-std::string ErrorMessage(int number, const std::string& what)
+std::string ErrorMessage(int number)
 {
     if (number == error::OutOfMemory) {
         return "Системная ошибка: Недостаточно памяти для выполнения команды. "
@@ -19,16 +19,16 @@ std::string ErrorMessage(int number, const std::string& what)
         return "Ошибка приложения или системная ошибка: Несовпадение типов данных! "
                "Обратитесь к разработчику! Программа может работать некорректно.";
     }
-    const std::string description = ErrorDescription(number) + (what.empty() ? "" : ": " + what);
-    return "Возникла непредвиденная ошибка № " + Decimal(number) + " : " + description +
+    return "Возникла непредвиденная ошибка № " + Decimal(number) + " : " +
+           ErrorDescription(number) +
            ". Программа может некорректно работать. Обратитесь к разработчику!";
 }
 
 } // namespace
 
-void ReportError(int number, const std::string& what)
+void ReportError(int number)
 {
-    MsgBox(ErrorMessage(number, what), "Torvenhall", Icon::Critical);
+    MsgBox(ErrorMessage(number), "Torvenhall", Icon::Critical);
 }
 
 } // namespace torvenhall

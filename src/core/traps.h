@@ -9,9 +9,8 @@
 namespace torvenhall
 {
 
-/// Shows the error box for a run-time error. `what` is added to the error's
-/// description.
-void ReportError(int number, const std::string& what = {});
+/// Shows the error box for a run-time error.
+void ReportError(int number);
 
 /// Runs a body; the run-time error that ended it, or number 0.
 /// Ends of lives and of the program pass through.
@@ -23,7 +22,7 @@ RuntimeError ErrorOf(Body&& body)
     } catch (const RuntimeError& caught) {
         return caught;
     } catch (const std::bad_alloc&) {
-        return {error::OutOfMemory, {}};
+        return {error::OutOfMemory};
     }
     return {};
 }
@@ -35,7 +34,7 @@ void Trapped(Body&& body)
 {
     const RuntimeError caught = ErrorOf(std::forward<Body>(body));
     if (caught.number != 0) {
-        ReportError(caught.number, caught.what);
+        ReportError(caught.number);
     }
 }
 

@@ -1,8 +1,8 @@
 #include "core/waits.h"
 
-#include <array>
-
-#include "core/life.h"
+#include "core/routine.h"
+#include "core/running.h"
+#include "core/unwinding.h"
 #include "system/convert.h"
 
 namespace torvenhall
@@ -11,28 +11,26 @@ namespace torvenhall
 namespace
 {
 
-std::array<std::string, LabelCount> shownTexts;
-
 /// Runs a call that waits and abandons the routine if its life is over then.
 template <class Call>
 auto Await(Call&& call)
 {
     const int life = LifeNumber();
-    auto answer = call();
+    auto answer = [&] {
+        const Waiting waiting;
+        return call();
+    }();
     StillAlive(life);
     return answer;
 }
 
-void AwaitEvents(double seconds)
+/// Waits for at most so many seconds.
+void AwaitTime(double seconds)
 {
-    const int life = LifeNumber();
-    Windows().ProcessEvents(seconds);
-    StillAlive(life);
-}
-
-std::string_view DesignText(Label label)
-{
-    return label == Label::lblFamily ? "NO WIFE" : "";
+    Await([&] {
+        Windows().Wait(seconds);
+        return true;
+    });
 }
 
 } // namespace
@@ -40,11 +38,21 @@ std::string_view DesignText(Label label)
 Answer MsgBox(std::string_view text, std::string_view title, Icon icon, Buttons buttons)
 {
     std::optional<Running> underTick;
-    if (InnermostEntry() == Entry::Tick) {
+    if (CurrentEntry() == Entry::Tick) {
         underTick.emplace(Running::What::BoxUnderTick);
     }
     const MessageBox box{std::string(text), std::string(title), icon, buttons};
     return Await([&] { return Windows().ShowMessageBox(box); });
+}
+
+void LastBox(std::string_view text, std::string_view title, Icon icon)
+{
+    BeginAnotherLife();
+    {
+        const Running lastBox(Running::What::LastBox);
+        MsgBox(text, title, icon);
+    }
+    EndLife();
 }
 
 std::optional<std::string> InputBox(std::string_view prompt, std::string_view title)
@@ -64,9 +72,10 @@ std::optional<std::string> AskGameName(const GameNameQuestion& question)
 
 void ShowVirusWindow()
 {
-    const int life = LifeNumber();
-    Windows().OpenWindow(Window::frmVirus);
-    StillAlive(life);
+    Await([] {
+        Windows().OpenWindow(window::frmVirus);
+        return true;
+    });
 }
 
 void Pause(double seconds)
@@ -74,7 +83,7 @@ void Pause(double seconds)
     const double start = WallSeconds();
     double left = seconds;
     while (left > 0) {
-        AwaitEvents(left);
+        AwaitTime(left);
         left = seconds - (WallSeconds() - start);
     }
 }
@@ -87,27 +96,8 @@ void WaitSeconds(int n)
     const double start = WallSeconds();
     double elapsed = 0;
     while (Round(elapsed) < n) {
-        AwaitEvents(n - 1 + roundsUpAfter - elapsed);
+        AwaitTime(n - 1 + roundsUpAfter - elapsed);
         elapsed = WallSeconds() - start;
-    }
-}
-
-void ShowLabel(Label label, std::string_view text, TextColour colour)
-{
-    std::string& shown = shownTexts[static_cast<std::size_t>(label)];
-    shown = text;
-    Windows().ShowLabel(label, shown, colour);
-}
-
-const std::string& LabelText(Label label)
-{
-    return shownTexts[static_cast<std::size_t>(label)];
-}
-
-void ResetLabels()
-{
-    for (std::size_t i = 0; i < LabelCount; ++i) {
-        shownTexts[i] = DesignText(static_cast<Label>(i));
     }
 }
 

@@ -1,65 +1,20 @@
 #include "equipment/basEquipment.h"
 
-#include <array>
 #include <string>
 
 #include "core/basGame.h"
+#include "core/shown.h"
 #include "core/traps.h"
 #include "core/waits.h"
 #include "equipment/catalogue.h"
-#include "equipment/requirements.h"
 #include "system/convert.h"
+#include "system/table.h"
 
 namespace torvenhall
 {
 
 namespace
 {
-
-using Field = Int16 GameStateRecord::*;
-
-constexpr std::array<Field, HardwareCategories> HardwareFields{
-    &GameStateRecord::HardCPU,   &GameStateRecord::HardRAM,     &GameStateRecord::HardVideo,
-    &GameStateRecord::HardHDD,   &GameStateRecord::HardCDROM,   &GameStateRecord::HardComm,
-    &GameStateRecord::HardSound, &GameStateRecord::HardScanner, &GameStateRecord::HardPrinter,
-};
-
-struct SoftwareSlot {
-    Field field;
-    Label label;
-};
-
-constexpr std::array<SoftwareSlot, SoftwareCategories> SoftwareSlots{{
-    {&GameStateRecord::SoftOS, Label::lblOs},
-    {&GameStateRecord::SoftAntivirus, Label::lblAntiv},
-    {&GameStateRecord::SoftProgramming, Label::lblProg},
-    {&GameStateRecord::SoftGraphic, Label::lblGraphic},
-    {&GameStateRecord::SoftBrowser, Label::lblInet},
-    {&GameStateRecord::SoftGames, Label::lblGames},
-}};
-
-constexpr int GamesCategory = 5;
-
-/// The category as an index; error 9 outside the table.
-template <class Table>
-const auto& SlotOf(const Table& table, Int16 category)
-{
-    if (category < 0 || category.value() >= static_cast<int>(table.size())) {
-        throw RuntimeError{error::Subscript, {}};
-    }
-    return table[static_cast<std::size_t>(category.value())];
-}
-
-Label HardwareLabel(Int16 category)
-{
-    return static_cast<Label>(static_cast<int>(Label::lblhard0) + category.value());
-}
-
-/// The first game is stored under the second one's index, on purpose.
-Int16 StoredIndex(Int16 category, Int16 index)
-{
-    return category == GamesCategory && index == 1 ? Int16{2} : index;
-}
 
 /// Takes the price, or refuses.
 bool Pay(const std::string& name, Int16 price)
@@ -77,12 +32,12 @@ bool Pay(const std::string& name, Int16 price)
 
 Int16& HardwareField(Int16 category)
 {
-    return GameState.*SlotOf(HardwareFields, category);
+    return GameState.*At(Hardware, category).field;
 }
 
 Int16& SoftwareField(Int16 category)
 {
-    return GameState.*SlotOf(SoftwareSlots, category).field;
+    return GameState.*At(Software, category).field;
 }
 
 void InstallHardware(Int16 category, Int16 index, bool pay)
@@ -93,9 +48,9 @@ void InstallHardware(Int16 category, Int16 index, bool pay)
         if (pay && !Pay(name, price)) {
             return;
         }
-        if (category >= 0 && category < HardwareCategories) {
-            ShowLabel(HardwareLabel(category), name);
-            HardwareField(category) = index;
+        if (const HardwareCategory* row = Find(Hardware, category)) {
+            ShowLabel(row->label, name);
+            GameState.*row->field = index;
         }
     });
 }
@@ -104,18 +59,17 @@ bool InstallSoftware(Int16 category, Int16 index)
 {
     bool installed = false;
     Trapped([&] {
-        const std::string_view name = GetSoftwareName(category, index);
-        if (name.empty()) {
+        const Program* program = ProgramOf(category, index);
+        if (program == nullptr) {
             return;
         }
-        const Requirement* rule = RequirementOf(category, index);
-        if (rule != nullptr && !IsMet(*rule)) {
-            MsgBox(rule->refusal, "Ну у Вас и запросы...", Icon::Information);
+        if (!AreMet(program->demands)) {
+            MsgBox(program->refusal, "Ну у Вас и запросы...", Icon::Information);
             return;
         }
-        const SoftwareSlot& slot = SlotOf(SoftwareSlots, category);
-        ShowLabel(slot.label, name);
-        GameState.*slot.field = StoredIndex(category, index);
+        const SoftwareCategory& row = At(Software, category);
+        ShowLabel(row.label, program->name);
+        GameState.*row.field = program->storedAs != 0 ? program->storedAs : index;
         installed = true;
     });
     return installed;
@@ -123,8 +77,8 @@ bool InstallSoftware(Int16 category, Int16 index)
 
 void ShowSoftware(Int16 category)
 {
-    const SoftwareSlot& slot = SlotOf(SoftwareSlots, category);
-    ShowLabel(slot.label, GetSoftwareName(category, GameState.*slot.field));
+    const SoftwareCategory& row = At(Software, category);
+    ShowLabel(row.label, GetSoftwareName(category, GameState.*row.field));
 }
 
 void SetSoftSize(Int16 megabytes)
@@ -136,8 +90,8 @@ void SetSoftSize(Int16 megabytes)
 Int16 HardwareScore()
 {
     Int16 score = 0;
-    for (const Field field : HardwareFields) {
-        score = score + GameState.*field;
+    for (const HardwareCategory& category : Hardware) {
+        score = score + GameState.*category.field;
     }
     return score;
 }

@@ -24,7 +24,7 @@ void ShowSoftware(Int16 category);
 /// Shows and stores the size of the other software, megabytes.
 void SetSoftSize(Int16 megabytes);
 
-/// The sum of the nine installed indices; 59 is a complete computer.
+/// The sum of the installed indices; CompleteComputer is the highest.
 Int16 HardwareScore();
 
 } // namespace torvenhall

@@ -1,22 +1,14 @@
 #include "equipment/shops.h"
 
-#include <array>
-
+#include "core/port.h"
 #include "core/traps.h"
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
 #include "system/convert.h"
+#include "system/table.h"
 
 namespace torvenhall
 {
-
-namespace
-{
-
-constexpr std::array<std::string_view, SoftwareCategories> SoftwarePrefixes{
-    "ОС - ", "Антивирус - ", "Прог-е - ", "Графика - ", "Интернет - ", "Игра - "};
-
-} // namespace
 
 Offer HardwareOffer(Int16 category)
 {
@@ -42,20 +34,25 @@ Offer SoftwareOffer(Int16 category)
         const Int16 installed = SoftwareField(category);
         offer.available = !GetSoftwareName(category, installed + 1).empty();
         const Int16 shown = offer.available ? installed + 1 : installed;
-        offer.caption = std::string(SoftwarePrefixes[static_cast<std::size_t>(category.value())]) +
+        offer.caption = std::string(At(Software, category).offer) +
                         std::string(GetSoftwareName(category, shown));
     });
     return offer;
 }
 
+// A window's handler goes on with its next statement, whatever became of the
+// purchase.
+
 void BuyNextHardware(Int16 category)
 {
-    InstallHardware(category, HardwareField(category) + 1, true);
+    TrappedSilently([&] { InstallHardware(category, HardwareField(category) + 1, true); });
+    Windows().ReloadWindow(window::frmHard);
 }
 
 void InstallNextSoftware(Int16 category)
 {
-    InstallSoftware(category, SoftwareField(category) + 1);
+    TrappedSilently([&] { InstallSoftware(category, SoftwareField(category) + 1); });
+    Windows().ReloadWindow(window::frmSoft);
 }
 
 } // namespace torvenhall

@@ -17,7 +17,8 @@ struct Offer {
 Offer HardwareOffer(Int16 category);
 Offer SoftwareOffer(Int16 category);
 
-/// The next item of the category: bought, or refused with a box.
+/// The next item of the category: bought, or refused with a box. The shop's
+/// window is loaded anew either way; errors are swallowed.
 void BuyNextHardware(Int16 category);
 void InstallNextSoftware(Int16 category);
 

@@ -3,6 +3,8 @@
 #include <string>
 
 #include "core/GameState.h"
+#include "core/draw.h"
+#include "core/shown.h"
 #include "core/traps.h"
 #include "core/waits.h"
 #include "system/convert.h"
@@ -51,7 +53,7 @@ void ChildBirth()
     Trapped([] {
         Randomize(Rnd() * 2.0F);
         // 0, 1 or 2; the middle one has the half of all chances.
-        if (ToInt16(double{Rnd()} * 2) == 1) {
+        if (Draw(2) == 1) {
             MsgBox("Поздравляем! У тебя родился сын!", "Медсестра", Icon::Information);
             GameState.Sons = GameState.Sons + 1;
         } else {
@@ -74,7 +76,7 @@ Int16 AlimonyFor()
 
 void ShowFamily()
 {
-    std::string caption = LabelText(Label::lblFamily);
+    std::string caption = ShownAt(Label::lblFamily).text;
     if (GameState.WifeFound == True && GameState.Married == True) {
         caption = "PRST";
     } else if (GameState.WifeFound == True && GameState.Married == False) {

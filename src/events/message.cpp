@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/shown.h"
 #include "core/waits.h"
 #include "system/text.h"
 

@@ -1,13 +1,16 @@
 #include "game/clock.h"
 
-#include <optional>
+#include <cstdint>
+#include <utility>
 
-#include "core/GameState.h"
-#include "core/life.h"
+#include "activities/work.h"
+#include "core/running.h"
 #include "core/timelabel.h"
 #include "core/traps.h"
+#include "core/unwinding.h"
 #include "core/waits.h"
 #include "equipment/basEquipment.h"
+#include "equipment/hardware.h"
 #include "events/basEvents.h"
 #include "network/network.h"
 
@@ -17,64 +20,22 @@ namespace torvenhall
 namespace
 {
 
-constexpr int TopJob = 12;
-constexpr int CompleteComputer = 59;
-
-/// The clock's reading after a tick.
+/// The time of day after a tick; there need not be such a time.
 struct Reading {
-    Int16 hour, minute;
+    TimeOfDay time;
     bool hourPassed = false;
 };
 
 /// Adds the speed to the time of day. One hour at most is carried, whatever
-/// the speed; an overflowing sum leaves the time as it is.
+/// the speed; a speed beyond all sense leaves the time as it is.
 Reading NextReading()
 {
-    const Int16 step = GameState.GameSpeed;
-    Reading next{GameState.GameTime.hour, GameState.GameTime.minute};
-    TrappedSilently([&] {
-        if (next.minute + step < 60) {
-            next.minute = next.minute + step;
-        } else {
-            next.minute = next.minute - 60 + step;
-            next.hour = next.hour + 1;
-            next.hourPassed = true;
-        }
-    });
-    return next;
-}
-
-/// The time of day, or nothing when there is no such time: the next day.
-std::optional<TimeOfDay> TimeOf(const Reading& reading)
-{
-    std::optional<TimeOfDay> time;
-    TrappedSilently([&] { time = MakeTime(reading.hour.value(), reading.minute.value()); });
-    return time;
-}
-
-/// Day, month and year as the clock counts them; they need not be a real day.
-struct CountedDay {
-    int day, month, year;
-};
-
-bool StoreDate(const CountedDay& counted)
-{
-    return TrappedSilently(
-        [&] { GameState.GameDate = MakeDate(counted.day, counted.month, counted.year); });
-}
-
-/// Goes to the next month's first day; December ends the year. The month's
-/// charges of a December are due only where its 31st ends it.
-void NextMonth(CountedDay& counted)
-{
-    counted.day = 1;
-    if (counted.month != 12) {
-        ++counted.month;
-    } else {
-        counted.month = 1;
-        ++counted.year;
-        PayTaxes();
+    const auto [hour, minute] = GameState.GameTime;
+    const int sum = minute + GameState.GameSpeed.value();
+    if (!std::in_range<std::int16_t>(sum)) {
+        return {GameState.GameTime};
     }
+    return sum < 60 ? Reading{{hour, sum}} : Reading{{hour + 1, sum - 60}, true};
 }
 
 /// The date moves on only after the day's events, and a life that ends in
@@ -83,25 +44,21 @@ void BeginDay()
 {
     const Running day(Running::What::Day);
     const Date today = GameState.GameDate;
-    CountedDay counted{static_cast<int>(static_cast<unsigned>(today.day())),
-                       static_cast<int>(static_cast<unsigned>(today.month())),
-                       static_cast<int>(today.year())};
+    const Date tomorrow{std::chrono::sys_days{today} + std::chrono::days{1}};
     // Minutes carried past midnight are dropped on purpose.
     GameState.GameTime = {};
     DailyEvents();
-    if (counted.day < 31) {
-        ++counted.day;
-    } else {
+    if (tomorrow.month() != today.month()) {
         LifeEvents(True);
-        NextMonth(counted);
     }
-    if (!StoreDate(counted)) {
-        const bool december = counted.month == 12;
-        NextMonth(counted);
-        if (!december) {
-            LifeEvents(True);
-        }
-        StoreDate(counted);
+    if (tomorrow.year() != today.year()) {
+        PayTaxes();
+    }
+    if (today < LastDay) {
+        GameState.GameDate = tomorrow;
+    } else {
+        // Looking for a month that begins, the clock ends this one again.
+        LifeEvents(True);
     }
 }
 
@@ -115,15 +72,6 @@ bool HasWon()
               HardwareScore() >= CompleteComputer;
     });
     return won;
-}
-
-void Win()
-{
-    {
-        const Running lastBox(Running::What::LastBox);
-        MsgBox("Вы прошли всю игру", "Наконец-то", Icon::Exclamation);
-    }
-    EndLife();
 }
 
 bool MustNotTick()
@@ -144,21 +92,20 @@ void ClockTick()
         return;
     }
     Randomize();
-    const Reading next = NextReading();
-    const std::optional<TimeOfDay> time = TimeOf(next);
-    if (!time && Running::Now(Running::What::Day)) {
+    const auto [time, hourPassed] = NextReading();
+    if (!time.ok() && Running::Now(Running::What::Day)) {
         return; // a day is never processed inside another
     }
-    if (next.hourPassed) {
+    if (hourPassed) {
         NetworkHourTick();
     }
-    if (time) {
-        GameState.GameTime = *time;
+    if (time.ok()) {
+        GameState.GameTime = time;
     } else {
         BeginDay();
     }
     if (HasWon()) {
-        Win();
+        LastBox("Вы прошли всю игру", "Наконец-то", Icon::Exclamation);
     }
     ShowTime();
 }
@@ -166,12 +113,12 @@ void ClockTick()
 void PauseGame()
 {
     Windows().EnableTimer(false);
-    Windows().OpenWindow(Window::frmPause);
+    Windows().OpenWindow(window::frmPause);
 }
 
 void ResumeGame()
 {
-    Windows().CloseWindow(Window::frmPause);
+    Windows().CloseWindow(window::frmPause);
     Windows().EnableTimer(true);
 }
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/GameState.h"
-#include "core/life.h"
+#include "core/unwinding.h"
 #include "core/waits.h"
 #include "network/network.h"
 #include "savegame/savegame.h"
@@ -16,7 +16,7 @@ void GoOnline()
 {
     if (GameState.HardComm >= 1 && GameState.SoftBrowser >= 1) {
         SayTrueStatus();
-        Windows().OpenWindow(Window::frmNetwork);
+        Windows().OpenWindow(window::frmNetwork);
     } else {
         // The message names a system that is not asked for, on purpose.
         MsgBox("Установи 9600 bps модем, Microsoft Windows 95 и Mirosoft Internet Explorer 3.0",

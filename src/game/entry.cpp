@@ -2,8 +2,10 @@
 
 #include <exception>
 
-#include "core/life.h"
+#include "core/port.h"
+#include "core/routine.h"
 #include "core/traps.h"
+#include "core/unwinding.h"
 #include "game/clock.h"
 #include "game/newgame.h"
 
@@ -20,8 +22,7 @@ bool LifeEndsIn(const std::function<void()>& body)
         body();
     } catch (const LifeEnd&) {
         return true;
-    } catch (const LifeAbandoned&) {
-    } catch (const ProgramEnd&) {
+    } catch (const Abandoned&) {
     } catch (const RuntimeError&) {
         // A window's handler skips what fails.
     } catch (const std::exception&) {
@@ -35,10 +36,13 @@ void Enter(Entry entry, const std::function<void()>& body)
     if (ProgramHasEnded()) {
         return;
     }
-    const EntryScope scope(entry);
-    if (LifeEndsIn(body)) {
-        LifeEndsIn(NewGame);
-    }
+    const Waiting outer; // a routine that causes another one goes on as itself
+    Windows().Run([entry, body] {
+        const Routine routine(entry);
+        if (LifeEndsIn(body)) {
+            LifeEndsIn(NewGame);
+        }
+    });
 }
 
 } // namespace

@@ -7,7 +7,8 @@ namespace torvenhall
 
 // The only doors from the windows into the rules. A life that ends inside is
 // followed by a new game here; an end of the program is noticed here; nothing
-// is ever thrown out of them.
+// is ever thrown out of them. Each returns when what it began has ended or
+// waits.
 
 /// Runs a window's event handler. A run-time error skips the rest of it.
 void EnterRules(const std::function<void()>& handler);

@@ -4,13 +4,16 @@
 
 #include "activities/work.h"
 #include "core/basGame.h"
-#include "core/life.h"
+#include "core/running.h"
+#include "core/shown.h"
 #include "core/timelabel.h"
+#include "core/title.h"
+#include "core/traps.h"
+#include "core/unwinding.h"
 #include "core/waits.h"
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
 #include "events/family.h"
-#include "savegame/format.h"
 #include "system/text.h"
 
 namespace torvenhall
@@ -32,7 +35,7 @@ NewPlayer AskPlayerName()
 {
     GameState.Restarting = True;
     Windows().CloseAllWindows();
-    ResetLabels();
+    ForgetShown();
     GameState.Restarting = False;
 
     NewPlayer player{std::string(NamePlaceholder), 1};
@@ -90,14 +93,16 @@ void Main()
 
 void NewGame()
 {
-    const Running newGame(Running::What::NewGame);
-    BeginAnotherLife();
-    const NewPlayer player = AskPlayerName();
-    SetStartingValues(player);
-    EmptyTheComputer();
-    ShowTime();
-    Windows().SetMainTitle(std::string(ApplicationTitle) + " - " + GameState.PlayerName);
-    Windows().ShowMainWindow();
+    Trapped([] {
+        BeginAnotherLife();
+        const Running newGame(Running::What::NewGame);
+        const NewPlayer player = AskPlayerName();
+        SetStartingValues(player);
+        EmptyTheComputer();
+        ShowTime();
+        ShowTitle();
+        Windows().ShowMainWindow();
+    });
 }
 
 } // namespace torvenhall

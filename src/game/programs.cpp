@@ -1,12 +1,12 @@
 #include "game/programs.h"
 
 #include <array>
+#include <span>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "core/waits.h"
 #include "system/basSystem.h"
-#include "system/programs.h"
 
 namespace torvenhall
 {
@@ -19,11 +19,29 @@ void TellMissing(const std::string& text)
     MsgBox(text, "Ошибка", Icon::Critical);
 }
 
-#ifdef _WIN32
+/// The first opens whatever editor the player has chosen for texts.
+constexpr std::array<std::string_view, 9> Editors{
+    "xdg-open", "gnome-text-editor", "gedit", "kate", "kwrite", "mousepad",
+    "xed",      "featherpad",        "pluma"};
 
-void OpenInEditor(const std::string& path)
+constexpr std::array<std::string_view, 7> SystemInformationTools{
+    "kinfocenter",          "hardinfo2",           "hardinfo",
+    "gnome-system-monitor", "mate-system-monitor", "plasma-systemmonitor",
+    "xfce4-taskmanager"};
+
+std::string FirstFound(std::span<const std::string_view> names)
 {
-    const std::string folder = AddBackslash(GetWindowsDir());
+    for (const std::string_view name : names) {
+        if (std::string found = Windows().FindProgram(name); !found.empty()) {
+            return found;
+        }
+    }
+    return {};
+}
+
+/// The editor that belongs to the system, in the system's own folder.
+void OpenInSystemEditor(const std::string& folder, const std::string& path)
+{
     const std::string editor = folder + "Notepad.exe";
     if (!IsDirectory(folder)) {
         TellMissing("Директория '" + folder + "' не найдена!!!");
@@ -34,6 +52,19 @@ void OpenInEditor(const std::string& path)
     }
 }
 
+void OpenInEditor(const std::string& path)
+{
+    if (const std::string folder = GetWindowsDir(); !folder.empty()) {
+        OpenInSystemEditor(AddBackslash(folder), path);
+    } else if (const std::string editor = FirstFound(Editors); !editor.empty()) {
+        Windows().StartProgram(editor, {path});
+    } else {
+        TellMissing("Файл '" + std::string(Editors.front()) + "' не найден!!!");
+    }
+}
+
+/// The tool that the system's settings name, or else the first found of the
+/// desktop's.
 std::string SystemInformationTool()
 {
     std::string tool;
@@ -44,47 +75,8 @@ std::string SystemInformationTool()
         tool += "\\MSINFO32.EXE";
         return FileExists(tool) ? tool : std::string{};
     }
-    return {};
-}
-
-#else
-
-template <std::size_t Count>
-std::string FirstFound(const std::array<const char*, Count>& names)
-{
-    for (const char* name : names) {
-        if (std::string found = FindProgram(name); !found.empty()) {
-            return found;
-        }
-    }
-    return {};
-}
-
-/// The first opens whatever editor the player has chosen for texts.
-constexpr std::array Editors{"xdg-open", "gnome-text-editor", "gedit", "kate", "kwrite", "mousepad",
-                             "xed",      "featherpad",        "pluma"};
-
-constexpr std::array SystemInformationTools{
-    "kinfocenter",          "hardinfo2",           "hardinfo",
-    "gnome-system-monitor", "mate-system-monitor", "plasma-systemmonitor",
-    "xfce4-taskmanager"};
-
-void OpenInEditor(const std::string& path)
-{
-    const std::string editor = FirstFound(Editors);
-    if (editor.empty()) {
-        TellMissing("Файл '" + std::string(Editors.front()) + "' не найден!!!");
-    } else {
-        Windows().StartProgram(editor, {path});
-    }
-}
-
-std::string SystemInformationTool()
-{
     return FirstFound(SystemInformationTools);
 }
-
-#endif
 
 } // namespace
 

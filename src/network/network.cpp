@@ -5,11 +5,14 @@
 
 #include "core/GameState.h"
 #include "core/basGame.h"
-#include "core/life.h"
+#include "core/draw.h"
+#include "core/remembered.h"
 #include "core/traps.h"
+#include "core/unwinding.h"
 #include "core/waits.h"
 #include "equipment/basEquipment.h"
 #include "system/convert.h"
+#include "system/table.h"
 
 namespace torvenhall
 {
@@ -17,22 +20,22 @@ namespace torvenhall
 namespace
 {
 
-NetworkState network;
+Remembered<NetworkState> network;
 
 constexpr std::string_view Connected = "Status: Connected";
 constexpr std::string_view Disconnected = "Status: Disconnected";
 
 struct Line {
-    Int16 NetworkState::*isUp;
-    std::string NetworkState::*status;
-    bool NetworkState::*dialEnabled;
-    int NetworkState::*waits;
+    Int16& isUp;
+    std::string& status;
+    bool& dialEnabled;
+    int& waits;
 };
 
-constexpr Line Internet{&NetworkState::InetConnected, &NetworkState::inetStatus,
-                        &NetworkState::inetDialEnabled, &NetworkState::inetWaits};
-constexpr Line Board{&NetworkState::BbsConnected, &NetworkState::bbsStatus,
-                     &NetworkState::bbsDialEnabled, &NetworkState::bbsWaits};
+const Line Internet{network->InetConnected, network->inetStatus, network->inetDialEnabled,
+                    network->inetWaits};
+const Line Board{network->BbsConnected, network->bbsStatus, network->bbsDialEnabled,
+                 network->bbsWaits};
 
 /// A status text and the seconds that it stays.
 struct Step {
@@ -56,84 +59,114 @@ constexpr std::array HangUp{Step{"Status: Disconnecting...", 1}};
 constexpr std::array<std::string_view, 3> SiteAddresses{
     "www.virusolov.example", "www.svezhiy-soft.example", "www.anekdoty.example"};
 
-void Refresh()
-{
-    Windows().ReloadWindow(Window::frmNetwork);
-}
+constexpr int LargestTransfer = 10; // megabytes
+constexpr int MostAtOnce = 16;
 
 void Say(const Line& line, std::string_view status)
 {
-    network.*line.status = status;
-    Refresh();
+    line.status = status;
+    Windows().ReloadWindow(window::frmNetwork);
 }
 
 /// What is left to say of a line when nothing runs on it.
 void SayTruth(const Line& line)
 {
-    Say(line, network.*line.isUp == True ? Connected : Disconnected);
+    Say(line, line.isUp == True ? Connected : Disconnected);
 }
+
+/// Counts something for as long as it goes on.
+class Counted
+{
+public:
+    explicit Counted(int& countOfSuch) : count(countOfSuch) { ++count; }
+    ~Counted() { --count; }
+    Counted(const Counted&) = delete;
+    Counted& operator=(const Counted&) = delete;
+
+private:
+    int& count;
+};
 
 void SayAndWait(const Line& line, std::string_view status, int seconds)
 {
-    ++(network.*line.waits);
-    try {
-        Say(line, status);
-        WaitSeconds(seconds);
-    } catch (...) {
-        --(network.*line.waits);
-        throw;
-    }
-    --(network.*line.waits);
+    const Counted wait(line.waits);
+    Say(line, status);
+    WaitSeconds(seconds);
 }
 
-/// Runs one button's sequence. `button`, which the sequence disables, is
-/// enabled again if something stops it.
-template <class Body>
-void RunSequence(const Line& line, bool NetworkState::*button, Body&& body)
+/// One button's sequence. Where something stops it, the button that it disables
+/// works again if it did before, and the status tells the truth.
+class Sequence
 {
-    TrappedSilently([&] {
-        try {
-            body();
-        } catch (...) {
-            if (button != nullptr) {
-                network.*button = true;
-            }
-            if (!ProgramHasEnded()) {
-                SayTruth(line);
-            }
-            throw;
+public:
+    Sequence(const Line& itsLine, bool* itsButton)
+        : line(itsLine), button(itsButton), worked(button != nullptr && *button)
+    {
+    }
+    ~Sequence()
+    {
+        if (!ended && worked) {
+            *button = true;
         }
+        if (!ended && !ProgramHasEnded()) {
+            TrappedSilently([this] { SayTruth(line); });
+        }
+    }
+    Sequence(const Sequence&) = delete;
+    Sequence& operator=(const Sequence&) = delete;
+    void End() { ended = true; }
+
+private:
+    const Line& line;
+    bool* button;
+    bool worked;
+    bool ended = false;
+};
+
+/// Runs a sequence, unless so many of its kind go on already that a clumsy
+/// finger must be at work.
+template <class Body>
+void RunSequence(int& running, const Line& line, bool* button, Body&& body)
+{
+    if (running >= MostAtOnce) {
+        return;
+    }
+    const Counted one(running);
+    TrappedSilently([&] {
+        Sequence sequence(line, button);
+        body();
+        sequence.End();
     });
 }
 
 void Switch(const Line& line, std::span<const Step> steps, Int16 up)
 {
-    network.*line.dialEnabled = false;
+    line.dialEnabled = false;
     for (const Step& step : steps) {
         SayAndWait(line, step.status, step.seconds);
     }
-    network.*line.isUp = up;
-    network.*line.dialEnabled = true;
+    line.isUp = up;
+    line.dialEnabled = true;
     SayTruth(line);
 }
 
 bool BothLinesAreDown()
 {
-    return network.InetConnected != True && network.BbsConnected != True;
+    return network->InetConnected != True && network->BbsConnected != True;
 }
 
-/// The megabytes of a transfer, 0 to 10.
-Int16 DrawSize()
+/// Runs a transfer, which is given its megabytes.
+template <class Body>
+void Transfer(const Line& line, bool* button, Body&& body)
 {
-    return ToInt16(double{Rnd()} * 10);
+    RunSequence(network->transfers, line, button, [&] { body(Draw(LargestTransfer)); });
 }
 
 void TransferWithBoard(std::string_view verb, bool receives)
 {
-    RunSequence(Board, nullptr, [&] {
-        const Int16 size = DrawSize();
-        const std::string amount = Decimal(size * 1024);
-        SayAndWait(Board, "Status: " + std::string(verb) + " " + amount + " Data...", size.value());
+    Transfer(Board, nullptr, [&](Int16 size) {
+        SayAndWait(Board, "Status: " + std::string(verb) + " " + Decimal(size * 1024) + " Data...",
+                   size.value());
         Say(Board, Connected);
         if (receives) {
             SetSoftSize(GameState.SoftSize + size);
@@ -144,13 +177,12 @@ void TransferWithBoard(std::string_view verb, bool receives)
 /// The software can be had once; the antivirus' data enables it again.
 void DownloadFromSite(bool enablesSoftware)
 {
-    RunSequence(Internet, &NetworkState::downloadEnabled, [&] {
-        const Int16 size = DrawSize();
-        network.downloadEnabled = false;
+    Transfer(Internet, &network->downloadEnabled, [&](Int16 size) {
+        network->downloadEnabled = false;
         SayAndWait(Internet, "Status: Downloading " + Decimal(size) + " Mb...", size.value());
         SetSoftSize(GameState.SoftSize + size);
         if (enablesSoftware) {
-            network.downloadEnabled = true;
+            network->downloadEnabled = true;
         }
         Say(Internet, Connected);
     });
@@ -160,7 +192,7 @@ void DownloadFromSite(bool enablesSoftware)
 
 const NetworkState& Network()
 {
-    return network;
+    return *network;
 }
 
 void NetworkHourTick()
@@ -170,38 +202,38 @@ void NetworkHourTick()
 
 void TrafficEvent()
 {
-    if (network.InetConnected == True) {
-        network.TrafficHours = network.TrafficHours + 1;
+    if (network->InetConnected == True) {
+        network->TrafficHours = network->TrafficHours + 1;
     }
 }
 
 void SayTrueStatus()
 {
-    for (const Line& line : {Internet, Board}) {
-        if (network.*line.waits == 0) {
-            SayTruth(line);
+    for (const Line* line : {&Internet, &Board}) {
+        if (line->waits == 0) {
+            SayTruth(*line);
         }
     }
 }
 
 void DialInternet()
 {
-    RunSequence(Internet, &NetworkState::inetDialEnabled, [] {
+    RunSequence(network->calls, Internet, &Internet.dialEnabled, [] {
         if (BothLinesAreDown()) {
             Switch(Internet, InternetCall, True);
-        } else if (network.InetConnected == True) {
+        } else if (network->InetConnected == True) {
             Switch(Internet, HangUp, False);
-            SetMoney(GameState.Money - network.TrafficHours);
+            SetMoney(GameState.Money - network->TrafficHours);
         }
     });
 }
 
 void DialBoard()
 {
-    RunSequence(Board, &NetworkState::bbsDialEnabled, [] {
+    RunSequence(network->calls, Board, &Board.dialEnabled, [] {
         if (BothLinesAreDown()) {
             Switch(Board, BoardCall, True);
-        } else if (network.BbsConnected == True) {
+        } else if (network->BbsConnected == True) {
             Switch(Board, HangUp, False);
         }
     });
@@ -229,13 +261,7 @@ void DownloadAntivirus()
 
 std::string_view SiteAddress(int location)
 {
-    const bool isSite = location >= 0 && location < static_cast<int>(SiteAddresses.size());
-    return isSite ? SiteAddresses[static_cast<std::size_t>(location)] : std::string_view{};
-}
-
-void ResetNetwork()
-{
-    network = {};
+    return FindOrEmpty(SiteAddresses, location);
 }
 
 } // namespace torvenhall

@@ -22,6 +22,8 @@ struct NetworkState {
     /// The pauses running on each line; a mark beside the status line moves
     /// while there is one.
     int inetWaits = 0, bbsWaits = 0;
+    int transfers = 0; ///< going on, of Command6, Command7 and the board's two
+    int calls = 0;     ///< going on, diallings and hang-ups
 };
 const NetworkState& Network();
 
@@ -38,7 +40,8 @@ void SayTrueStatus();
 // whether the window stays open or not, and returns then. A line that is
 // busy with the other kind of call is refused silently, and errors are
 // swallowed. When an error, another life or the program's end stops a
-// sequence, its button is enabled again and the status tells the truth.
+// sequence, its button is enabled again and the status tells the truth. Of the
+// four transfers at most 16 go on at once; a further one does nothing.
 
 /// Command1: dials the Internet, or hangs up and takes $1 for each hour
 /// online since the program began, the ones paid before included.
@@ -57,8 +60,5 @@ void DownloadAntivirus();
 /// The site panels' captions: 0 antivirus, 1 software, 2 anecdotes; empty
 /// outside.
 std::string_view SiteAddress(int location);
-
-/// Puts the lines back as in a fresh program, for tests.
-void ResetNetwork();
 
 } // namespace torvenhall

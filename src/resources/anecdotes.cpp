@@ -9,6 +9,7 @@
 #include "system/checked.h"
 #include "system/codepage.h"
 #include "system/convert.h"
+#include "system/table.h"
 #include "system/text.h"
 
 namespace torvenhall
@@ -45,9 +46,9 @@ std::vector<std::string> Lines(std::string_view bytes)
 std::string RandomLine(const std::string& path)
 {
     const std::vector<std::string> lines = Lines(ReadWholeFile(path));
-    const Int16 count = Int16::From(static_cast<std::int64_t>(lines.size()));
+    const Int16 count = Int16::From(std::ssize(lines));
     if (lines.empty()) {
-        throw RuntimeError{error::Subscript, {}};
+        throw RuntimeError{error::Subscript};
     }
     if (lines.front() != Header) {
         TellAboutFile("повреждён или имеет неверный формат", "Ошибка 745");
@@ -55,8 +56,7 @@ std::string RandomLine(const std::string& path)
     Randomize(count.value());
     // The header takes part in the draw, on purpose.
     const Int16 chosen = ToInt16(double{Rnd()} * (count.value() - 1) + 1);
-    const std::string& line = lines.at(static_cast<std::size_t>(chosen.value() - 1));
-    return ReplaceAll(FromWindows1251(line), "<CRLF>", "\r\n");
+    return ReplaceAll(FromWindows1251(At(lines, chosen - 1)), "<CRLF>", "\r\n");
 }
 
 } // namespace
@@ -71,7 +71,7 @@ std::string GetAnecdote()
     std::string anecdote;
     const RuntimeError failure = ErrorOf([&] { anecdote = RandomLine(path); });
     if (failure.number != 0) {
-        ReportError(failure.number, failure.what);
+        ReportError(failure.number);
         throw failure;
     }
     return anecdote;

@@ -1,11 +1,11 @@
 #include "resources/basLangMGR.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "core/traps.h"
 #include "system/codepage.h"
 #include "system/files.h"
+#include "system/table.h"
 #include "system/text.h"
 
 namespace torvenhall
@@ -24,22 +24,15 @@ std::string_view WithoutTrailingBlanks(std::string_view text)
     return text.substr(0, text.find_last_not_of(Blanks) + 1);
 }
 
-std::string_view WithoutBlanksAround(std::string_view text)
-{
-    text.remove_prefix(std::min(text.find_first_not_of(Blanks), text.size()));
-    return WithoutTrailingBlanks(text);
-}
-
 bool IsSameName(std::string_view left, std::string_view right)
 {
-    return FoldCase(FromWindows1251(WithoutBlanksAround(left))) ==
-           FoldCase(WithoutBlanksAround(right));
+    return FoldCase(FromWindows1251(Trim(left, Blanks))) == FoldCase(Trim(right, Blanks));
 }
 
 /// The section's name if the line begins a section.
 std::optional<std::string_view> SectionOf(std::string_view line)
 {
-    line = WithoutBlanksAround(line);
+    line = Trim(line, Blanks);
     const std::size_t end = line.find(']');
     if (!line.starts_with('[') || end == std::string_view::npos) {
         return std::nullopt;
@@ -49,7 +42,7 @@ std::optional<std::string_view> SectionOf(std::string_view line)
 
 std::string_view WithoutQuotes(std::string_view value)
 {
-    const std::string_view quoted = WithoutBlanksAround(value);
+    const std::string_view quoted = Trim(value, Blanks);
     const bool isQuoted = quoted.size() >= 2 && quoted.front() == quoted.back() &&
                           (quoted.front() == '"' || quoted.front() == '\'');
     return isQuoted ? quoted.substr(1, quoted.size() - 2) : value;
@@ -64,7 +57,7 @@ std::string FindValue(std::string_view file, std::string_view section, std::stri
         if (const auto begun = SectionOf(line)) {
             inSection = IsSameName(*begun, section);
         } else if (inSection && equals != std::string::npos &&
-                   !WithoutBlanksAround(line).starts_with(';') &&
+                   !Trim(line, Blanks).starts_with(';') &&
                    IsSameName(std::string_view(line).substr(0, equals), key)) {
             const std::string_view value = std::string_view(line).substr(equals + 1);
             return std::string(WithoutQuotes(WithoutTrailingBlanks(value)));
@@ -96,13 +89,13 @@ std::string CutAtNul(std::string_view text)
 
 void SelectLanguage(int index)
 {
-    if (index < 1 || static_cast<std::size_t>(index) > LangFiles().size()) {
+    const std::string* file = Find(LangFiles(), Int32{index} - 1);
+    if (file == nullptr) {
         ReportError(error::Subscript);
-        throw RuntimeError{error::Subscript, {}};
+        throw RuntimeError{error::Subscript};
     }
-    const std::string& file = LangFiles()[static_cast<std::size_t>(index - 1)];
-    LangCopyright = ReadLangString(file, "General", "Copyright");
-    LangDescription = ReadLangString(file, "General", "Description");
+    LangCopyright = ReadLangString(*file, "General", "Copyright");
+    LangDescription = ReadLangString(*file, "General", "Description");
 }
 
 } // namespace torvenhall

@@ -30,16 +30,15 @@ void PassThroughTemp(std::string_view key, std::span<const std::byte> picture)
 
 } // namespace
 
-std::span<const std::byte> LoadFormPicture(std::string_view key)
+bool LoadFormPicture(std::string_view key, std::span<const std::byte> picture)
 {
-    const auto picture = Windows().FindPicture(std::string(key) + "PICTURE");
-    const bool isMissing = picture.size() < SmallestPicture;
-    if (isMissing) {
+    const bool isThere = picture.size() >= SmallestPicture;
+    if (!isThere) {
         MsgBox("Error 48: Picture not Exist or Data Damage Error", "JPEGInside Critical Error",
                Icon::Critical);
     }
     PassThroughTemp(key, picture);
-    return isMissing ? std::span<const std::byte>{} : picture;
+    return isThere;
 }
 
 bool DirExists(const std::string& path)

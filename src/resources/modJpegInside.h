@@ -8,12 +8,12 @@
 namespace torvenhall
 {
 
-/// The JPEG file of a window's background picture by its key ("MAIN"). On the
-/// way it passes through a file in TEMP, which leaves the folder there and
-/// makes it the current directory if it was there before; that step may fail,
-/// and costs no picture. Empty, after an error box, when there is no such
-/// picture.
-std::span<const std::byte> LoadFormPicture(std::string_view key);
+/// What the loading of a window's background picture, a JPEG file carried in
+/// the program, does beside decoding it: the picture passes through a file in
+/// TEMP named by its key ("MAIN"), which leaves the folder there and makes it
+/// the current directory if it was there before; that step may fail, and costs
+/// no picture. False, after an error box, when there is no such picture.
+bool LoadFormPicture(std::string_view key, std::span<const std::byte> picture);
 
 /// False only if the folder does not exist. A folder that does becomes the
 /// current directory, on purpose.

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "core/basGame.h"
+#include "core/title.h"
+#include "equipment/basEquipment.h"
 #include "system/basSystem.h"
 #include "system/codepage.h"
 #include "system/convert.h"
@@ -67,25 +70,32 @@ Int16 AsBoolean(Int16 number)
     return number == False ? False : True;
 }
 
-/// One line: how it is written and how it is read.
+/// One line: how it is written, how it is read and, if its value is shown as
+/// soon as it is read, the setter through which a load applies it.
 struct Row {
-    std::string (*write)(const GameStateRecord& game);
-    void (*read)(GameStateRecord& game, std::string_view text);
+    std::string (*write)(const Game& game);
+    void (*read)(Game& game, std::string_view text);
+    void (*set)(Game& read) = nullptr;
 };
 
 template <auto Field>
 constexpr Row Value{
-    [](const GameStateRecord& game) { return Text(game.*Field); },
-    [](GameStateRecord& game, std::string_view text) { Read(game.*Field, text); },
+    [](const Game& game) { return Text(game.*Field); },
+    [](Game& game, std::string_view text) { Read(game.*Field, text); },
+};
+
+template <auto Field, auto Setter>
+constexpr Row Shown{
+    Value<Field>.write,
+    Value<Field>.read,
+    [](Game& read) { Setter(read.*Field); },
 };
 
 /// Reads any number but 0 as True.
 template <auto Field>
 constexpr Row Boolean{
-    [](const GameStateRecord& game) { return Text(AsBoolean(game.*Field)); },
-    [](GameStateRecord& game, std::string_view text) {
-        game.*Field = ReadInt32(text) == 0 ? False : True;
-    },
+    [](const Game& game) { return Text(AsBoolean(game.*Field)); },
+    [](Game& game, std::string_view text) { game.*Field = ReadInt32(text) == 0 ? False : True; },
 };
 
 /// Written as a Boolean, but keeps any number that it reads.
@@ -93,18 +103,16 @@ template <auto Field>
 constexpr Row LooseBoolean{Boolean<Field>.write, Value<Field>.read};
 
 constexpr Row Title{
-    [](const GameStateRecord&) { return std::string(ApplicationTitle); },
-    [](GameStateRecord&, std::string_view) {},
+    [](const Game&) { return std::string(ApplicationTitle); },
+    [](Game&, std::string_view) {},
 };
-
-using Game = GameStateRecord;
 
 // The order is the file's, and old games depend on it: the antivirus comes
 // before programming, the wedding before the wife, daughters before sons.
 constexpr std::array<Row, SavedLines> Rows{
     Title,
-    Value<&Game::Money>,
-    Value<&Game::Happy>,
+    Shown<&Game::Money, SetMoney>,
+    Shown<&Game::Happy, SetHappy>,
     Value<&Game::GameTime>,
     Value<&Game::GameDate>,
     Value<&Game::PlayerName>,
@@ -126,15 +134,15 @@ constexpr std::array<Row, SavedLines> Rows{
     Value<&Game::SoftGraphic>,
     Value<&Game::SoftBrowser>,
     Value<&Game::SoftGames>,
-    Value<&Game::Health>,
-    Value<&Game::EatLevel>,
+    Shown<&Game::Health, SetHealth>,
+    Shown<&Game::EatLevel, SetEatLevel>,
     Boolean<&Game::AttendCourses>,
     Boolean<&Game::AttendSchool>,
-    Value<&Game::Education>,
-    Value<&Game::Intelligence>,
-    Value<&Game::GameLevel>,
-    Value<&Game::GameSpeed>,
-    Value<&Game::SoftSize>,
+    Shown<&Game::Education, SetEducation>,
+    Shown<&Game::Intelligence, SetIntelligence>,
+    Shown<&Game::GameLevel, SetGameLevel>,
+    Shown<&Game::GameSpeed, SetGameSpeed>,
+    Shown<&Game::SoftSize, SetSoftSize>,
     LooseBoolean<&Game::Married>,
     LooseBoolean<&Game::WifeFound>,
     Value<&Game::Daughters>,
@@ -145,7 +153,7 @@ static_assert(std::ranges::all_of(Rows, [](const Row& row) { return row.write &&
 
 } // namespace
 
-std::string EncodeGame(const GameStateRecord& game)
+std::string EncodeGame(const Game& game)
 {
     std::string text;
     for (const Row& row : Rows) {
@@ -160,15 +168,22 @@ SavedGame DecodeGame(std::string_view bytes)
 {
     SavedGame lines = Split(ShiftCharsUp(std::string(bytes)), LineBreak);
     if (lines.size() > SavedLines) {
-        throw RuntimeError{error::Subscript, {}};
+        throw RuntimeError{error::Subscript};
     }
     std::ranges::transform(lines, lines.begin(), FromWindows1251);
     return lines;
 }
 
-void ReadField(GameStateRecord& game, std::size_t line, std::string_view text)
+void ApplyLine(std::size_t line, std::string_view text)
 {
-    Rows.at(line - 1).read(game, text);
+    const Row& row = Rows[line - 1];
+    if (row.set == nullptr) {
+        row.read(GameState, text);
+        return;
+    }
+    Game read;
+    row.read(read, text);
+    row.set(read);
 }
 
 } // namespace torvenhall

@@ -1,14 +1,16 @@
 #include "savegame/savegame.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 
 #include "activities/work.h"
-#include "core/basGame.h"
-#include "core/life.h"
+#include "core/GameState.h"
+#include "core/running.h"
+#include "core/shown.h"
 #include "core/timelabel.h"
+#include "core/title.h"
 #include "core/traps.h"
+#include "core/unwinding.h"
 #include "core/waits.h"
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
@@ -51,23 +53,13 @@ std::vector<std::string> SavedFiles()
     return files;
 }
 
-std::optional<std::string> AskForSaving(const std::string& name)
+std::optional<std::string> AskForGame(bool saving, const std::string& name)
 {
-    return AskGameName({.saving = true,
-                        .caption = "Сохранение игры",
+    return AskGameName({.saving = saving,
+                        .caption = saving ? "Сохранение игры" : "Загрузка игры",
                         .heading = "Доступные игры:",
-                        .confirm = "Сохранить",
+                        .confirm = saving ? "Сохранить" : "Загрузить",
                         .name = name,
-                        .games = ListSavedGames()});
-}
-
-std::optional<std::string> AskForLoading()
-{
-    return AskGameName({.saving = false,
-                        .caption = "Загрузка игры",
-                        .heading = "Доступные игры:",
-                        .confirm = "Загрузить",
-                        .name = {},
                         .games = ListSavedGames()});
 }
 
@@ -75,40 +67,10 @@ void WriteGame(const std::string& name)
 {
     const std::string file = FileOf(name);
     if (!IsPossibleFileName(file)) {
-        throw RuntimeError{error::BadFileName, {}};
+        throw RuntimeError{error::BadFileName};
     }
     MakeDirectory(SaveFolder());
     ReplaceFile(SavePath(file), EncodeGame(GameState));
-}
-
-/// A line whose value is shown as soon as it is read.
-struct ShownLine {
-    std::size_t line;
-    void (*set)(GameStateRecord& read);
-};
-
-constexpr std::array ShownLines{
-    ShownLine{2, [](GameStateRecord& read) { SetMoney(read.Money); }},
-    ShownLine{3, [](GameStateRecord& read) { SetHappy(read.Happy); }},
-    ShownLine{25, [](GameStateRecord& read) { SetHealth(read.Health); }},
-    ShownLine{26, [](GameStateRecord& read) { SetEatLevel(read.EatLevel); }},
-    ShownLine{29, [](GameStateRecord& read) { SetEducation(read.Education); }},
-    ShownLine{30, [](GameStateRecord& read) { SetIntelligence(read.Intelligence); }},
-    ShownLine{31, [](GameStateRecord& read) { SetGameLevel(read.GameLevel); }},
-    ShownLine{32, [](GameStateRecord& read) { SetGameSpeed(read.GameSpeed); }},
-    ShownLine{33, [](GameStateRecord& read) { SetSoftSize(read.SoftSize); }},
-};
-
-void ApplyLine(std::size_t line, const std::string& text)
-{
-    const auto shown = std::ranges::find(ShownLines, line, &ShownLine::line);
-    if (shown == ShownLines.end()) {
-        ReadField(GameState, line, text);
-        return;
-    }
-    GameStateRecord read;
-    ReadField(read, line, text);
-    shown->set(read);
 }
 
 /// Installs what the fields hold already, so that it is shown and checked.
@@ -130,14 +92,14 @@ void ApplyGame(const SavedGame& game)
     ShowLabel(Label::lblMessage, "");
     for (std::size_t line = 2; line <= SavedLines; ++line) {
         if (line > game.size()) {
-            throw RuntimeError{error::TypeMismatch, {}}; // the file ends too soon
+            throw RuntimeError{error::TypeMismatch}; // the file ends too soon
         }
         ApplyLine(line, game[line - 1]);
     }
     InstallEquipment();
     ShowFamily();
     SetWork(GameState.CurrWork);
-    Windows().SetMainTitle(std::string(ApplicationTitle) + " - " + GameState.PlayerName);
+    ShowTitle();
 }
 
 /// The file of a listed game.
@@ -164,12 +126,12 @@ void LoadNamedGame(const std::string& name)
         return;
     }
     // No tick comes between the lines, nor under the boxes that they cause.
-    const Running load(Running::What::Load);
     BeginAnotherLife();
+    const Running load(Running::What::Load);
     const RuntimeError failure = ErrorOf([&] { ApplyGame(game); });
     ShowTime();
     if (failure.number != 0) {
-        ReportError(failure.number, failure.what);
+        ReportError(failure.number);
     }
 }
 
@@ -181,7 +143,7 @@ void SaveGame()
         MakeDirectory(SaveFolder());
         std::string name;
         for (;;) {
-            const std::optional<std::string> entered = AskForSaving(name);
+            const std::optional<std::string> entered = AskForGame(true, name);
             if (!entered || entered->empty()) {
                 return;
             }
@@ -190,7 +152,7 @@ void SaveGame()
             if (failure.number == 0) {
                 return;
             }
-            ReportError(failure.number, failure.what);
+            ReportError(failure.number);
         }
     });
 }
@@ -198,7 +160,7 @@ void SaveGame()
 void LoadGame()
 {
     Trapped([] {
-        const std::optional<std::string> name = AskForLoading();
+        const std::optional<std::string> name = AskForGame(false, {});
         if (name && !name->empty()) {
             LoadNamedGame(*name);
         }

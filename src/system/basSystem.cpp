@@ -11,27 +11,9 @@ namespace torvenhall
 namespace
 {
 
-struct Directories {
+struct {
     std::string shipped, data;
-};
-
-std::string ProgramFolder()
-{
-    std::error_code ignored;
-    const std::string file = ProgramFile();
-    return Utf8Path(file.empty() ? std::filesystem::current_path(ignored)
-                                 : NativePath(file).parent_path());
-}
-
-// Found on first use, for whoever neither finds nor sets them.
-Directories& Found()
-{
-    static Directories directories;
-    if (directories.shipped.empty()) {
-        directories.shipped = directories.data = AddBackslash(ProgramFolder());
-    }
-    return directories;
-}
+} directories;
 
 } // namespace
 
@@ -75,33 +57,32 @@ std::string ShiftCharsUp(std::string bytes)
 
 const std::string& ProgramDirectory()
 {
-    return Found().shipped;
+    return directories.shipped;
 }
 
 const std::string& DataDirectory()
 {
-    return Found().data;
+    return directories.data;
 }
 
-void FindDirectories(const std::string& installedShare)
+void FindDirectories(const std::string& programFolder, const std::string& installedShare,
+                     const std::string& userData)
 {
-    const std::string beside = AddBackslash(ProgramFolder());
-    const std::string share =
-        Utf8Path((NativePath(beside) / NativePath(installedShare)).lexically_normal());
-    if (installedShare.empty() || !IsDirectory(share)) {
-        SetDirectories(beside, beside);
+    const std::string share = Utf8Path(
+        (NativePath(AddBackslash(programFolder)) / NativePath(installedShare)).lexically_normal());
+    if (!IsDirectory(share)) {
+        SetDirectories(programFolder, programFolder);
         return;
     }
-    const std::string data = UserDataDirectory();
     // A folder that cannot be made tells so when something is written to it.
     std::error_code ignored;
-    std::filesystem::create_directories(NativePath(data), ignored);
-    SetDirectories(share, data);
+    std::filesystem::create_directories(NativePath(userData), ignored);
+    SetDirectories(share, userData);
 }
 
 void SetDirectories(const std::string& shipped, const std::string& data)
 {
-    Found() = {AddBackslash(shipped), AddBackslash(data)};
+    directories = {AddBackslash(shipped), AddBackslash(data)};
 }
 
 } // namespace torvenhall

@@ -39,9 +39,11 @@ const std::string& ProgramDirectory();
 /// Where SAVE and TEMP are made, with a trailing separator: the program's own
 /// folder, or the user's data folder of an installed program.
 const std::string& DataDirectory();
-/// Finds both folders from the program's file; `installedShare` is the share
-/// folder's place relative to the program's folder ("../share/torvenhall").
-void FindDirectories(const std::string& installedShare);
+/// Finds both: the program is installed if there is a share folder at its place
+/// relative to the program's own ("../share/torvenhall"); `userData` is the
+/// player's folder for the data of this program, made if it is needed.
+void FindDirectories(const std::string& programFolder, const std::string& installedShare,
+                     const std::string& userData);
 /// Sets both folders, for tools and tests.
 void SetDirectories(const std::string& shipped, const std::string& data);
 

@@ -14,15 +14,13 @@ namespace
 {
 
 constexpr int FirstYear = 100;
-constexpr int LastYear = 9999;
 
 constexpr std::array<std::string_view, 12> MonthsInGenitive{
     "января", "февраля", "марта",    "апреля",  "мая",    "июня",
     "июля",   "августа", "сентября", "октября", "ноября", "декабря"};
 
-std::string Padded(int number, std::size_t digits)
+std::string Padded(const std::string& text, std::size_t digits)
 {
-    const std::string text = std::to_string(number);
     return text.size() < digits ? std::string(digits - text.size(), '0') + text : text;
 }
 
@@ -30,7 +28,7 @@ int Number(std::string_view digits, std::size_t fewest, std::size_t most)
 {
     const bool isNumber = std::ranges::all_of(digits, [](char c) { return c >= '0' && c <= '9'; });
     if (!isNumber || digits.size() < fewest || digits.size() > most) {
-        throw RuntimeError{error::TypeMismatch, {}};
+        throw RuntimeError{error::TypeMismatch};
     }
     return ReadInt16(digits).value();
 }
@@ -39,59 +37,59 @@ std::vector<std::string> Parts(std::string_view text, std::string_view separator
 {
     std::vector<std::string> parts = Split(text, separator);
     if (parts.size() != count) {
-        throw RuntimeError{error::TypeMismatch, {}};
+        throw RuntimeError{error::TypeMismatch};
     }
     return parts;
 }
 
-int DayOf(Date date)
+std::string DayText(Date date)
 {
-    return static_cast<int>(static_cast<unsigned>(date.day()));
+    return std::to_string(unsigned{date.day()});
 }
 
-int MonthOf(Date date)
+std::string YearText(Date date)
 {
-    return static_cast<int>(static_cast<unsigned>(date.month()));
+    return Padded(std::to_string(int{date.year()}), 4);
 }
 
 } // namespace
 
 TimeOfDay MakeTime(int hour, int minute)
 {
-    if (hour < 0 || hour > 23 || minute < 0 || minute > 59) {
-        throw RuntimeError{error::TypeMismatch, {}};
+    const TimeOfDay time{hour, minute};
+    if (!time.ok()) {
+        throw RuntimeError{error::TypeMismatch};
     }
-    return {hour, minute};
+    return time;
 }
 
 Date MakeDate(int day, int month, int year)
 {
-    const bool inRange =
-        day >= 1 && day <= 31 && month >= 1 && month <= 12 && year >= FirstYear && year <= LastYear;
+    const bool inRange = day >= 1 && day <= 31 && month >= 1 && month <= 12 && year >= FirstYear &&
+                         year <= int{LastDay.year()};
     const Date date{std::chrono::year{year}, std::chrono::month{static_cast<unsigned>(month)},
                     std::chrono::day{static_cast<unsigned>(day)}};
     if (!inRange || !date.ok()) {
-        throw RuntimeError{error::TypeMismatch, {}};
+        throw RuntimeError{error::TypeMismatch};
     }
     return date;
 }
 
 std::string TimeText(TimeOfDay time)
 {
-    return Padded(time.hour, 2) + ":" + Padded(time.minute, 2);
+    return Padded(std::to_string(time.hour), 2) + ":" + Padded(std::to_string(time.minute), 2);
 }
 
 std::string DateText(Date date)
 {
-    return Padded(DayOf(date), 2) + "." + Padded(MonthOf(date), 2) + "." +
-           Padded(static_cast<int>(date.year()), 4);
+    return Padded(DayText(date), 2) + "." + Padded(std::to_string(unsigned{date.month()}), 2) +
+           "." + YearText(date);
 }
 
 std::string LongDateText(Date date)
 {
-    const auto month = static_cast<std::size_t>(MonthOf(date) - 1);
-    return std::to_string(DayOf(date)) + " " + std::string(MonthsInGenitive.at(month)) + " " +
-           Padded(static_cast<int>(date.year()), 4);
+    return DayText(date) + " " + std::string(MonthsInGenitive[unsigned{date.month()} - 1]) + " " +
+           YearText(date);
 }
 
 TimeOfDay ReadTime(std::string_view text)

@@ -14,10 +14,15 @@ using Date = std::chrono::year_month_day;
 struct TimeOfDay {
     int hour = 0;
     int minute = 0;
+    /// Whether there is such a time.
+    constexpr bool ok() const { return hour >= 0 && hour < 24 && minute >= 0 && minute < 60; }
     friend constexpr bool operator==(TimeOfDay, TimeOfDay) = default;
 };
 
 inline constexpr Date FirstDay{std::chrono::year{2001}, std::chrono::month{1}, std::chrono::day{1}};
+/// The last day that a saved game can name.
+inline constexpr Date LastDay{std::chrono::year{9999}, std::chrono::month{12},
+                              std::chrono::day{31}};
 
 /// A time of day made of its parts; error 13 when there is no such time
 /// (hour 24, minute 60, anything negative).

@@ -2,7 +2,7 @@
 
 #include <compare>
 #include <cstdint>
-#include <limits>
+#include <utility>
 
 #include "system/errors.h"
 
@@ -55,8 +55,8 @@ public:
 private:
     static constexpr Rep Narrow(std::int64_t number)
     {
-        if (number < std::numeric_limits<Rep>::min() || number > std::numeric_limits<Rep>::max()) {
-            throw RuntimeError{error::Overflow, {}};
+        if (!std::in_range<Rep>(number)) {
+            throw RuntimeError{error::Overflow};
         }
         return static_cast<Rep>(number);
     }

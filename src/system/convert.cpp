@@ -3,7 +3,8 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <limits>
+
+#include "system/text.h"
 
 namespace torvenhall
 {
@@ -11,31 +12,18 @@ namespace torvenhall
 namespace
 {
 
-template <class Number>
-Number Narrow(double number)
+std::int64_t Whole(double number)
 {
-    using Limits = std::numeric_limits<decltype(Number{}.value())>;
-    const double whole = Round(number);
     // Asked this way round, a not-a-number fails too.
-    if (!(whole >= Limits::min() && whole <= Limits::max())) {
-        throw RuntimeError{error::Overflow, {}};
+    if (!(std::abs(number) < 0x1p62)) {
+        throw RuntimeError{error::Overflow};
     }
-    return Number::From(static_cast<std::int64_t>(whole));
-}
-
-std::string_view WithoutBlanksAround(std::string_view text)
-{
-    constexpr std::string_view blanks = " \t";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    return std::llrint(number);
 }
 
 std::int64_t ReadWhole(std::string_view text)
 {
-    std::string_view digits = WithoutBlanksAround(text);
+    std::string_view digits = Trim(text, " \t");
     if (digits.starts_with('+') && !digits.starts_with("+-")) {
         digits.remove_prefix(1);
     }
@@ -43,10 +31,10 @@ std::int64_t ReadWhole(std::string_view text)
     const char* const end = digits.data() + digits.size();
     const auto [stop, failure] = std::from_chars(digits.data(), end, number);
     if (failure == std::errc::invalid_argument || stop != end) {
-        throw RuntimeError{error::TypeMismatch, {}};
+        throw RuntimeError{error::TypeMismatch};
     }
     if (failure == std::errc::result_out_of_range) {
-        throw RuntimeError{error::Overflow, {}};
+        throw RuntimeError{error::Overflow};
     }
     return number;
 }
@@ -60,18 +48,18 @@ double Round(double number)
 
 Int16 ToInt16(double number)
 {
-    return Narrow<Int16>(number);
+    return Int16::From(Whole(number));
 }
 
 Int32 ToInt32(double number)
 {
-    return Narrow<Int32>(number);
+    return Int32::From(Whole(number));
 }
 
 double SquareRoot(double number)
 {
     if (number < 0) {
-        throw RuntimeError{error::InvalidCall, {}};
+        throw RuntimeError{error::InvalidCall};
     }
     return std::sqrt(number);
 }

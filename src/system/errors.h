@@ -25,12 +25,9 @@ inline constexpr int PathFileAccess = 75;
 inline constexpr int PathNotFound = 76;
 } // namespace error
 
-/// A run-time error on its way to the nearest trap (core/errors.h).
-/// `what` is an addition to the description for the reader of the box, in
-/// Russian and UTF-8; most errors have none.
+/// A run-time error on its way to the nearest trap (core/traps.h).
 struct RuntimeError {
     int number = 0;
-    std::string what;
 };
 
 /// The Russian description of an error number; a general phrase for a number

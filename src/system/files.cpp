@@ -74,13 +74,13 @@ std::string Utf8Path(const fs::path& path)
 
 void RaiseFileError(const std::error_code& failure, Sought sought, std::string_view path)
 {
-    throw RuntimeError{NumberOf(failure, sought, path), {}};
+    throw RuntimeError{NumberOf(failure, sought, path)};
 }
 
 void DeleteFile(const std::string& path)
 {
     if (IsDirectory(path)) {
-        throw RuntimeError{error::PathFileAccess, {}};
+        throw RuntimeError{error::PathFileAccess};
     }
     std::error_code failure;
     const bool removed = fs::remove(NativePath(path), failure);
@@ -88,7 +88,7 @@ void DeleteFile(const std::string& path)
         RaiseFileError(failure, Sought::File, path);
     }
     if (!removed) {
-        throw RuntimeError{error::FileNotFound, {}};
+        throw RuntimeError{error::FileNotFound};
     }
 }
 
@@ -110,7 +110,7 @@ void MakeDirectory(const std::string& path)
     }
     // A file of that name is neither success nor failure to some libraries.
     if (!IsDirectory(path)) {
-        throw RuntimeError{error::PathFileAccess, {}};
+        throw RuntimeError{error::PathFileAccess};
     }
     FlushDirectory(NativePath(path).parent_path());
 }

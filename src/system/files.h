@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,11 +10,7 @@ namespace torvenhall
 
 // Paths are UTF-8 everywhere; files are read and written in binary.
 
-#ifdef _WIN32
-inline constexpr char PathSeparator = '\\';
-#else
-inline constexpr char PathSeparator = '/';
-#endif
+inline constexpr char PathSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
 
 /// The whole file. Errors 53 (missing), 70, 75, 76, 57 as the system tells.
 std::string ReadWholeFile(const std::string& path);
@@ -49,10 +46,5 @@ std::vector<std::string> FileNames(const std::string& directory);
 /// not empty, no separator or NUL, not "." or "..", no name reserved by the
 /// system, not too long.
 bool IsPossibleFileName(std::string_view name);
-
-/// The running program's own file, an absolute path.
-std::string ProgramFile();
-/// The user's folder for an application's data, without a trailing separator.
-std::string UserDataDirectory();
 
 } // namespace torvenhall

@@ -1,11 +1,9 @@
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <system_error>
 #include <utility>
 
 #include <fcntl.h>
-#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -220,27 +218,6 @@ bool PlatformTakesFileName(std::string_view name)
 {
     constexpr std::size_t longest = 255;
     return name.size() <= longest;
-}
-
-std::string ProgramFile()
-{
-    std::error_code ignored;
-    return Utf8Path(std::filesystem::read_symlink("/proc/self/exe", ignored));
-}
-
-std::string UserDataDirectory()
-{
-    // A relative folder there is to be ignored, by the convention.
-    const char* const data = std::getenv("XDG_DATA_HOME");
-    if (data != nullptr && *data == PathSeparator) {
-        return AddBackslash(data) + "torvenhall";
-    }
-    const char* home = std::getenv("HOME");
-    if (home == nullptr || *home != PathSeparator) {
-        const passwd* const user = ::getpwuid(::getuid());
-        home = user != nullptr ? user->pw_dir : "";
-    }
-    return AddBackslash(home) + ".local/share/torvenhall";
 }
 
 std::string GetWindowsDir()

@@ -10,8 +10,6 @@
 #endif
 #include <windows.h>
 
-#include <shlobj.h>
-
 // The system's header renames these.
 #undef DeleteFile
 #undef ReplaceFile
@@ -41,6 +39,9 @@ struct Meaning {
     std::errc failure;
 };
 
+// Not every compiler's headers for this system name it.
+constexpr DWORD DiskQuotaExceeded = 1295;
+
 // The standard library's own translation knows neither all nor always these.
 constexpr std::array Meanings{
     Meaning{ERROR_SHARING_VIOLATION, std::errc::device_or_resource_busy},
@@ -48,7 +49,7 @@ constexpr std::array Meanings{
     Meaning{ERROR_WRITE_PROTECT, std::errc::read_only_file_system},
     Meaning{ERROR_DISK_FULL, std::errc::no_space_on_device},
     Meaning{ERROR_HANDLE_DISK_FULL, std::errc::no_space_on_device},
-    Meaning{ERROR_DISK_QUOTA_EXCEEDED, std::errc::no_space_on_device},
+    Meaning{DiskQuotaExceeded, std::errc::no_space_on_device},
     Meaning{ERROR_INVALID_NAME, std::errc::filename_too_long},
     Meaning{ERROR_FILENAME_EXCED_RANGE, std::errc::filename_too_long},
     Meaning{ERROR_ACCESS_DENIED, std::errc::permission_denied},
@@ -153,17 +154,6 @@ private:
 /// itself tells.
 constexpr std::size_t LongestPath = 32768;
 
-std::string FolderOfUser()
-{
-    PWSTR folder = nullptr;
-    std::string result;
-    if (::SHGetKnownFolderPath(FOLDERID_RoamingAppData, 0, nullptr, &folder) == S_OK) {
-        result = Utf8(folder);
-    }
-    ::CoTaskMemFree(folder);
-    return result;
-}
-
 std::string HexadecimalFromLast(DWORD number)
 {
     std::array<char, 16> text{};
@@ -245,20 +235,6 @@ bool PlatformTakesFileName(std::string_view name)
         (stem.starts_with("com") || stem.starts_with("lpt")) && Characters(stem).size() == 4 &&
         std::string_view{"0123456789¹²³"}.find(stem.substr(3)) != std::string_view::npos;
     return !isPort && std::ranges::find(devices, stem) == devices.end();
-}
-
-std::string ProgramFile()
-{
-    std::wstring path(LongestPath, L'\0');
-    const DWORD length =
-        ::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    path.resize(length);
-    return Utf8(path);
-}
-
-std::string UserDataDirectory()
-{
-    return AddBackslash(FolderOfUser()) + "Torvenhall";
 }
 
 std::string GetWindowsDir()

@@ -141,6 +141,12 @@ bool IsUtf8(std::string_view text)
     return std::ranges::all_of(Characters(text), IsSequence);
 }
 
+std::string_view Trim(std::string_view text, std::string_view blanks)
+{
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    return text.substr(0, text.find_last_not_of(blanks) + 1);
+}
+
 std::string ReplaceAll(std::string text, std::string_view from, std::string_view to)
 {
     if (from.empty()) {

@@ -26,6 +26,9 @@ void AppendCodePoint(std::string& text, char32_t codePoint);
 /// Whether the text is UTF-8 from its first byte to its last.
 bool IsUtf8(std::string_view text);
 
+/// The text without these characters at its beginning and end.
+std::string_view Trim(std::string_view text, std::string_view blanks);
+
 /// Every occurrence of `from` replaced by `to`.
 std::string ReplaceAll(std::string text, std::string_view from, std::string_view to);
 

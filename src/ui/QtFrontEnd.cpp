@@ -2,88 +2,98 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QEventLoop>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include <cmath>
-#include <iterator>
-#include <type_traits>
 
-#include "ui/frmAbout.h"
-#include "ui/frmEducation.h"
-#include "ui/frmHappy.h"
-#include "ui/frmHard.h"
-#include "ui/frmHospital.h"
+#include "core/unwinding.h"
+#include "game/entry.h"
 #include "ui/frmLocGame.h"
 #include "ui/frmMain.h"
-#include "ui/frmNetwork.h"
-#include "ui/frmPause.h"
 #include "ui/frmPlayerName.h"
-#include "ui/frmShop.h"
-#include "ui/frmSoft.h"
-#include "ui/frmVirus.h"
-#include "ui/frmWork.h"
-#include "ui/widgets/boxes.h"
-#include "ui/widgets/pictures.h"
+#include "ui/widgets/gamemessagebox.h"
+#include "ui/widgets/inputwindow.h"
 #include "ui/widgets/qtext.h"
+#include "ui/windows.h"
 
 namespace torvenhall
 {
 
-namespace
+QtFrontEnd::~QtFrontEnd()
 {
-
-using Maker = std::unique_ptr<GameWindow> (*)(LabelBoard& board, QWidget* owner);
-
-template <class Made>
-std::unique_ptr<GameWindow> MakeWindow([[maybe_unused]] LabelBoard& board, QWidget* owner)
-{
-    if constexpr (std::is_constructible_v<Made, LabelBoard&, QWidget*>) {
-        return std::make_unique<Made>(board, owner);
-    } else {
-        return std::make_unique<Made>(owner);
-    }
+    // However the event loop ended: nothing of the rules may stay on a stack.
+    EnterRules([] { torvenhall::EndProgram(); });
+    routines.Unwind();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-/// In the order of Window.
-constexpr Maker Makers[] = {
-    MakeWindow<frmHard>,  MakeWindow<frmSoft>,  MakeWindow<frmHappy>,     MakeWindow<frmHospital>,
-    MakeWindow<frmShop>,  MakeWindow<frmWork>,  MakeWindow<frmEducation>, MakeWindow<frmNetwork>,
-    MakeWindow<frmVirus>, MakeWindow<frmPause>, MakeWindow<frmAbout>,
-};
-static_assert(std::size(Makers) == WindowCount);
-
-} // namespace
-
-QtFrontEnd::~QtFrontEnd() = default;
-
-void QtFrontEnd::ShowLabel(Label label, std::string_view text, TextColour colour)
+void QtFrontEnd::Run(const std::function<void()>& routine)
 {
-    if (!ended) {
-        MainWindow();
-        board.Show(label, Text(text), colour);
-    }
+    routines.Run(routine);
 }
 
 frmMain& QtFrontEnd::MainWindow()
 {
     if (!mainWindow) {
-        mainWindow = new frmMain(board);
+        mainWindow = new frmMain;
         windows.Opened(mainWindow);
         mainWindow->Load();
     }
     return *mainWindow;
 }
 
-Answer QtFrontEnd::ShowMessageBox(const MessageBox& box)
+void QtFrontEnd::LabelChanged(Label label)
 {
     if (ended) {
-        return box.buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
+        return;
+    }
+    MainWindow().LabelChanged(label);
+    for (const QPointer<QWidget>& each : windows.All()) {
+        if (auto* window = dynamic_cast<GameWindow*>(each.data())) {
+            window->LabelChanged(label);
+        }
+    }
+}
+
+void QtFrontEnd::Close(QWidget* window)
+{
+    windows.Closed(window);
+    if (QWidget* beneath = windows.Top()) {
+        beneath->activateWindow(); // some desktops leave no window active
+    }
+}
+
+/// Shows a dialog until it has ended; false if the program did before it.
+bool QtFrontEnd::AwaitEndOf(QDialog& dialog)
+{
+    const QPointer<QDialog> shown = &dialog;
+    windows.Opened(shown);
+    shown->setWindowModality(Qt::ApplicationModal);
+    routines.Await([&](const Routines::Resume& resume) {
+        QObject::connect(shown, &QDialog::finished, shown, resume);
+        shown->show();
+    });
+    if (shown) {
+        Close(shown);
+    }
+    return !ended && shown;
+}
+
+bool QtFrontEnd::IsConfirmed(QDialog& dialog)
+{
+    return AwaitEndOf(dialog) && dialog.result() == QDialog::Accepted;
+}
+
+Answer QtFrontEnd::ShowMessageBox(const MessageBox& box)
+{
+    const Answer unanswered = box.buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
+    if (ended) {
+        return unanswered;
     }
     auto* message = new GameMessageBox(box, windows.Top());
-    windows.Run(message);
-    return message->PressedAnswer();
+    return AwaitEndOf(*message) ? message->PressedAnswer() : unanswered;
 }
 
 std::optional<std::string> QtFrontEnd::AskText(std::string_view prompt, std::string_view title)
@@ -92,10 +102,7 @@ std::optional<std::string> QtFrontEnd::AskText(std::string_view prompt, std::str
         return {};
     }
     auto* input = new InputWindow(Text(prompt), Text(title), windows.Top());
-    if (windows.Run(input) != QDialog::Accepted || ended) {
-        return {};
-    }
-    return Utf8(input->EnteredText());
+    return IsConfirmed(*input) ? std::optional(Utf8(input->EnteredText())) : std::nullopt;
 }
 
 std::optional<NewPlayer> QtFrontEnd::AskName(const NewPlayer& shown)
@@ -104,10 +111,7 @@ std::optional<NewPlayer> QtFrontEnd::AskName(const NewPlayer& shown)
         return {};
     }
     auto* dialog = new frmPlayerName(shown, windows.Top());
-    if (windows.Run(dialog) != QDialog::Accepted || ended) {
-        return {};
-    }
-    return dialog->Entered();
+    return IsConfirmed(*dialog) ? std::optional(dialog->Entered()) : std::nullopt;
 }
 
 std::optional<std::string> QtFrontEnd::AskGameName(const GameNameQuestion& question)
@@ -116,92 +120,94 @@ std::optional<std::string> QtFrontEnd::AskGameName(const GameNameQuestion& quest
         return {};
     }
     auto* dialog = new frmLocGame(question, windows.Top());
-    if (windows.Run(dialog) != QDialog::Accepted || ended) {
-        return {};
-    }
-    return dialog->EnteredName();
+    return IsConfirmed(*dialog) ? std::optional(dialog->EnteredName()) : std::nullopt;
 }
 
-std::unique_ptr<GameWindow> QtFrontEnd::Make(Window window)
-{
-    return Makers[static_cast<std::size_t>(window)](board, mainWindow);
-}
-
-void QtFrontEnd::OpenWindow(Window window)
+void QtFrontEnd::Wait(double seconds)
 {
     if (ended) {
         return;
     }
-    if (GameWindow* open = Find(window); open && window == Window::frmPause) {
+    auto pause = pauses.end();
+    routines.Await([&](const Routines::Resume& resume) {
+        pause = pauses.insert(pauses.end(), resume);
+        const int milliseconds = static_cast<int>(std::ceil(clock.RealSeconds(seconds) * 1000));
+        QTimer::singleShot(std::max(milliseconds, 0), Qt::PreciseTimer, qApp, resume);
+    });
+    pauses.erase(pause);
+}
+
+void QtFrontEnd::EndPauses()
+{
+    const auto running = pauses;
+    for (const Routines::Resume& resume : running) {
+        resume();
+    }
+}
+
+void QtFrontEnd::OpenWindow(std::string_view window)
+{
+    const WindowRow* row = FindWindow(window);
+    if (ended || row == nullptr) {
+        return;
+    }
+    if (GameWindow* open = Find(window); open && window == window::frmPause) {
         open->raise();
         open->activateWindow();
         return;
     }
     CloseWindow(window);
-    std::unique_ptr<GameWindow> made = Make(window);
+    // The loading may wait, in the box about a missing picture.
+    const QPointer<GameWindow> made = row->make(mainWindow).release();
     made->Load();
-    GameWindow* shown = made.release();
-    windows.Opened(shown);
-    QObject::connect(shown, &QDialog::finished, &windows, [this, shown] { windows.Bury(shown); });
-    shown->show();
-    if (window == Window::frmVirus) {
+    if (!made) {
+        return;
+    }
+    GameWindow* shown = made;
+    if (window == window::frmVirus) {
         AwaitEndOf(*shown);
+        return;
     }
+    windows.Opened(shown);
+    QObject::connect(shown, &QDialog::finished, shown, [this, shown] { Close(shown); });
+    shown->show();
 }
 
-void QtFrontEnd::AwaitEndOf(GameWindow& window)
+GameWindow* QtFrontEnd::Find(std::string_view window) const
 {
-    QEventLoop loop;
-    QObject::connect(&window, &QDialog::finished, &loop, &QEventLoop::quit);
-    if (window.isVisible()) {
-        loop.exec();
-    }
+    return ended ? nullptr : dynamic_cast<GameWindow*>(windows.Find(Text(window)));
 }
 
-GameWindow* QtFrontEnd::Find(Window window) const
-{
-    return qobject_cast<GameWindow*>(windows.Find(Text(WindowName(window))));
-}
-
-void QtFrontEnd::CloseWindow(Window window)
+void QtFrontEnd::CloseWindow(std::string_view window)
 {
     if (GameWindow* open = Find(window)) {
         open->done(QDialog::Rejected);
     }
 }
 
-bool QtFrontEnd::IsOpen(Window window) const
+void QtFrontEnd::ReloadWindow(std::string_view window)
 {
-    return !ended && Find(window);
-}
-
-void QtFrontEnd::ReloadWindow(Window window)
-{
-    if (GameWindow* open = Find(window); open && !ended) {
+    if (GameWindow* open = Find(window)) {
         open->Load();
     }
 }
 
-void QtFrontEnd::DisableButton(Window window, std::string_view control)
+void QtFrontEnd::DisableButton(std::string_view window, std::string_view control)
 {
-    if (GameWindow* open = Find(window); open && !ended) {
+    if (GameWindow* open = Find(window)) {
         if (auto* button = open->findChild<QAbstractButton*>(Text(control))) {
-            button->setEnabled(false);
+            open->SetUsable(*button, false);
         }
     }
 }
 
 void QtFrontEnd::CloseAllWindows()
 {
-    if (ended) {
-        return;
+    if (!ended) {
+        EnableTimer(false);
+        windows.CloseAll();
+        mainWindow = nullptr;
     }
-    if (mainWindow) {
-        mainWindow->EnableTimer(false);
-    }
-    windows.CloseAll();
-    mainWindow = nullptr;
-    board.Reset();
 }
 
 void QtFrontEnd::ShowMainWindow()
@@ -220,13 +226,6 @@ void QtFrontEnd::SetMainTitle(std::string_view title)
     }
 }
 
-void QtFrontEnd::MinimiseMainWindow()
-{
-    if (mainWindow && !ended) {
-        mainWindow->showMinimized();
-    }
-}
-
 void QtFrontEnd::EnableTimer(bool enabled)
 {
     if (mainWindow && !ended) {
@@ -234,40 +233,18 @@ void QtFrontEnd::EnableTimer(bool enabled)
     }
 }
 
-void QtFrontEnd::ProcessEvents(double seconds)
+std::string QtFrontEnd::FindProgram(std::string_view name)
 {
-    if (ended) {
-        return;
-    }
-    QEventLoop loop;
-    if (seconds <= 0) {
-        loop.processEvents();
-        return;
-    }
-    QTimer wake;
-    wake.setSingleShot(true);
-    wake.setTimerType(Qt::PreciseTimer);
-    wake.start(static_cast<int>(std::ceil(clock.RealSeconds(seconds) * 1000)));
-    loop.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    return Utf8(QStandardPaths::findExecutable(Text(name)));
 }
 
 bool QtFrontEnd::StartProgram(const std::string& program, const std::vector<std::string>& arguments)
 {
-    if (ended) {
-        return false;
-    }
     QStringList list;
     for (const std::string& argument : arguments) {
         list.append(Text(argument));
     }
-    return QProcess::startDetached(Text(program), list);
-}
-
-std::span<const std::byte> QtFrontEnd::FindPicture(std::string_view name) const
-{
-    const QByteArray bytes = EmbeddedPicture(name);
-    return {reinterpret_cast<const std::byte*>(bytes.constData()),
-            static_cast<std::size_t>(bytes.size())};
+    return !ended && QProcess::startDetached(Text(program), list);
 }
 
 void QtFrontEnd::EndProgram()
@@ -275,11 +252,10 @@ void QtFrontEnd::EndProgram()
     if (ended) {
         return;
     }
-    ended = true;
-    if (mainWindow) {
-        mainWindow->EnableTimer(false);
-    }
+    EnableTimer(false);
     windows.CloseAll();
+    EndPauses();
+    ended = true;
     QCoreApplication::exit(0);
 }
 

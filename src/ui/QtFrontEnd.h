@@ -2,12 +2,14 @@
 
 #include <QPointer>
 
-#include <memory>
+#include <list>
 
 #include "core/port.h"
 #include "ui/QtWallClock.h"
-#include "ui/widgets/board.h"
+#include "ui/routines.h"
 #include "ui/widgets/windowlist.h"
+
+class QDialog;
 
 namespace torvenhall
 {
@@ -15,45 +17,46 @@ namespace torvenhall
 class GameWindow;
 class frmMain;
 
-/// The windows behind the port of the rules.
+/// The windows behind the port of the rules. Its end is the program's.
 class QtFrontEnd final : public FrontEnd
 {
 public:
     explicit QtFrontEnd(const QtWallClock& newClock) : clock(newClock) {}
     ~QtFrontEnd() override;
 
-    void ShowLabel(Label label, std::string_view text, TextColour colour) override;
+    void Run(const std::function<void()>& routine) override;
+    void LabelChanged(Label label) override;
     Answer ShowMessageBox(const MessageBox& box) override;
     std::optional<std::string> AskText(std::string_view prompt, std::string_view title) override;
     std::optional<NewPlayer> AskName(const NewPlayer& shown) override;
     std::optional<std::string> AskGameName(const GameNameQuestion& question) override;
-    void OpenWindow(Window window) override;
-    void CloseWindow(Window window) override;
-    bool IsOpen(Window window) const override;
-    void ReloadWindow(Window window) override;
-    void DisableButton(Window window, std::string_view control) override;
+    void Wait(double seconds) override;
+    void EndPauses() override;
+    void OpenWindow(std::string_view window) override;
+    void CloseWindow(std::string_view window) override;
+    void ReloadWindow(std::string_view window) override;
+    void DisableButton(std::string_view window, std::string_view control) override;
     void CloseAllWindows() override;
     void ShowMainWindow() override;
     void SetMainTitle(std::string_view title) override;
-    void MinimiseMainWindow() override;
     void EnableTimer(bool enabled) override;
-    void ProcessEvents(double seconds) override;
+    std::string FindProgram(std::string_view name) override;
     bool StartProgram(const std::string& program,
                       const std::vector<std::string>& arguments) override;
-    std::span<const std::byte> FindPicture(std::string_view name) const override;
     void EndProgram() override;
 
     /// The main window, made if there is none.
     frmMain& MainWindow();
-    LabelBoard& Board() { return board; }
 
 private:
-    GameWindow* Find(Window window) const;
-    std::unique_ptr<GameWindow> Make(Window window);
-    void AwaitEndOf(GameWindow& window);
+    GameWindow* Find(std::string_view window) const;
+    void Close(QWidget* window);
+    bool AwaitEndOf(QDialog& dialog);
+    bool IsConfirmed(QDialog& dialog);
 
     const QtWallClock& clock;
-    LabelBoard board;
+    Routines routines;
+    std::list<Routines::Resume> pauses;
     WindowList windows;
     QPointer<frmMain> mainWindow;
     bool ended = false;

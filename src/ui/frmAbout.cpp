@@ -43,7 +43,7 @@ frmAbout::frmAbout(QWidget* parent) : GameWindow("frmAbout", 460, 346, parent)
     GameButton* system = AddButton("Command2", "О системе...", {210, 302, 122, 30});
     system->SetGlyph(Glyph::Screen);
     GameButton* accept = AddButton("Command1", "OK", {342, 302, 104, 30});
-    connect(system, &QAbstractButton::clicked, this, [this] { Act(StartSysInfo); });
+    connect(system, &QAbstractButton::clicked, this, [] { Act(StartSysInfo); });
     connect(accept, &QAbstractButton::clicked, this, &frmAbout::reject);
     accept->setFocus();
 }

@@ -8,8 +8,6 @@ namespace torvenhall
 /// The about box.
 class frmAbout : public GameWindow
 {
-    Q_OBJECT
-
 public:
     explicit frmAbout(QWidget* parent);
 };

@@ -16,8 +16,8 @@ constexpr double PanelWidth = 346;
 constexpr double ButtonTop = 70;
 } // namespace
 
-frmEducation::frmEducation(LabelBoard& board, QWidget* parent)
-    : ActivityWindow({"frmEducation", "Повышение квалификации", "EDUC"}, board, parent)
+frmEducation::frmEducation(QWidget* parent)
+    : ActivityWindow({"frmEducation", "Повышение квалификации", "EDUC"}, parent)
 {
     AddSlogan("Label3", "Label4", "Школа... Без неё -- никуда...", {20, 14, 520, 34});
     AddProgramme(
@@ -47,7 +47,7 @@ GameButton* frmEducation::AddToggle(const char* name, const QString& caption, do
                                     void (*toggle)())
 {
     GameButton* button = AddButton(name, caption, {26, top + ButtonTop, PanelWidth - 24, 27});
-    connect(button, &QAbstractButton::clicked, this, [this, toggle] { ChooseAndReload(toggle); });
+    connect(button, &QAbstractButton::clicked, this, [toggle] { Act(toggle); });
     return button;
 }
 

@@ -8,10 +8,8 @@ namespace torvenhall
 /// The education window: attend school or courses, or drop out.
 class frmEducation : public ActivityWindow
 {
-    Q_OBJECT
-
 public:
-    frmEducation(LabelBoard& board, QWidget* parent);
+    explicit frmEducation(QWidget* parent);
 
     void Load() override;
 

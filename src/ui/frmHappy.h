@@ -8,13 +8,8 @@ namespace torvenhall
 /// Entertainment: sells mood.
 class frmHappy : public ServiceSeller
 {
-    Q_OBJECT
-
 public:
-    frmHappy(LabelBoard& board, QWidget* parent)
-        : ServiceSeller("frmHappy", Entertainment, board, parent)
-    {
-    }
+    explicit frmHappy(QWidget* parent) : ServiceSeller("frmHappy", Entertainment, parent) {}
 };
 
 } // namespace torvenhall

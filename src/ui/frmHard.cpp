@@ -5,9 +5,9 @@
 namespace torvenhall
 {
 
-frmHard::frmHard(LabelBoard& board, QWidget* parent)
+frmHard::frmHard(QWidget* parent)
     : EquipmentShop({"frmHard", "Железо", "HARD"},
-                    {"cmdUpggrade", HardwareCategories, 404, HardwareOffer, BuyNextHardware}, board,
+                    {"cmdUpggrade", HardwareCategories, 404, HardwareOffer, BuyNextHardware},
                     parent)
 {
     AddSlogan("Label3", "Label4", "Железо оно и на Тайване железо", {20, 12, 520, 34});

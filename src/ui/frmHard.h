@@ -8,10 +8,8 @@ namespace torvenhall
 /// The hardware shop: nine buttons, each the next better part of its kind.
 class frmHard : public EquipmentShop
 {
-    Q_OBJECT
-
 public:
-    frmHard(LabelBoard& board, QWidget* parent);
+    explicit frmHard(QWidget* parent);
 };
 
 } // namespace torvenhall

@@ -8,13 +8,8 @@ namespace torvenhall
 /// The hospital: sells health.
 class frmHospital : public ServiceSeller
 {
-    Q_OBJECT
-
 public:
-    frmHospital(LabelBoard& board, QWidget* parent)
-        : ServiceSeller("frmHospital", Hospital, board, parent)
-    {
-    }
+    explicit frmHospital(QWidget* parent) : ServiceSeller("frmHospital", Hospital, parent) {}
 };
 
 } // namespace torvenhall

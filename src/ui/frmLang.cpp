@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QPointer>
 
 #include "resources/basLangMGR.h"
 #include "ui/widgets/metrics.h"
@@ -44,10 +45,12 @@ frmLang::frmLang(QWidget* parent)
 void frmLang::ShowLanguage(int row)
 {
     // A row without a file has been reported; its texts are then not shown.
-    Act([this, row] {
+    Act([row, box = QPointer(info)] {
         SelectLanguage(row + 1);
-        info->setPlainText("Description: " + Text(LangDescription) +
-                           "\r\nCopyright: " + Text(LangCopyright));
+        if (box) {
+            box->setPlainText("Description: " + Text(LangDescription) +
+                              "\r\nCopyright: " + Text(LangCopyright));
+        }
     });
 }
 

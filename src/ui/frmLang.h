@@ -12,8 +12,6 @@ namespace torvenhall
 /// of language files yet.
 class frmLang : public GameWindow
 {
-    Q_OBJECT
-
 public:
     explicit frmLang(QWidget* parent);
 

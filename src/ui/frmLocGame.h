@@ -13,8 +13,6 @@ namespace torvenhall
 /// saving, picked for loading.
 class frmLocGame : public GameWindow
 {
-    Q_OBJECT
-
 public:
     frmLocGame(const GameNameQuestion& question, QWidget* parent);
 

@@ -9,12 +9,11 @@
 #include <QTimer>
 
 #include "core/GameState.h"
-#include "core/basGame.h"
 #include "game/cheats.h"
 #include "game/clock.h"
 #include "game/commands.h"
 #include "game/entry.h"
-#include "ui/widgets/button.h"
+#include "ui/widgets/gamebutton.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/theme.h"
@@ -68,26 +67,9 @@ protected:
     }
 };
 
-/// The whole number in a label's text ("$15", "-3%").
-double NumberIn(QString text)
-{
-    return text.remove('$').remove('%').toDouble();
-}
-
-int RankOf(const QString& word)
-{
-    for (int rank = 1; rank <= 8; ++rank) {
-        if (Text(ShowStatus(rank)) == word) {
-            return rank;
-        }
-    }
-    return 0;
-}
-
 } // namespace
 
-frmMain::frmMain(LabelBoard& newBoard)
-    : board(newBoard), scene(new Scene(Width, Height, this)), tmrTime(new QTimer(this))
+frmMain::frmMain() : scene(new Scene(Width, Height, this)), tmrTime(new QTimer(this))
 {
     setObjectName("frmMain");
     setWindowTitle("Marshend Torvenhall 1.5");
@@ -112,10 +94,9 @@ frmMain::frmMain(LabelBoard& newBoard)
     tmrTime->setObjectName("tmrTime");
     tmrTime->setTimerType(Qt::PreciseTimer);
     tmrTime->setInterval(TickMilliseconds);
-    connect(tmrTime, &QTimer::timeout, this, &frmMain::QueueTick);
-    connect(&board, &LabelBoard::Shown, this, &frmMain::ShowLabel);
-    for (std::size_t i = 0; i < LabelCount; ++i) {
-        ShowLabel(static_cast<Label>(i));
+    connect(tmrTime, &QTimer::timeout, this, EnterTick);
+    for (std::size_t i = 0; i < CountOf<Label>; ++i) {
+        LabelChanged(static_cast<Label>(i));
     }
 }
 
@@ -128,8 +109,6 @@ void frmMain::Load()
 
 void frmMain::EnableTimer(bool enabled)
 {
-    ++timerRun;
-    tickQueued = false;
     if (enabled) {
         tmrTime->start();
     } else {
@@ -138,62 +117,27 @@ void frmMain::EnableTimer(bool enabled)
     pauseVeil->setVisible(!enabled);
 }
 
-/// A timer does not fire while its own slot is on the stack, and a tick may
-/// wait for seconds in the message line; so the tick runs from the event
-/// queue instead. One at most waits there.
-void frmMain::QueueTick()
+void frmMain::LabelChanged(Label label)
 {
-    if (tickQueued) {
-        return;
-    }
-    tickQueued = true;
-    const auto tick = [this, run = timerRun] {
-        if (run == timerRun) {
-            tickQueued = false;
-            EnterTick();
-        }
-    };
-    QMetaObject::invokeMethod(this, tick, Qt::QueuedConnection);
-}
-
-void frmMain::ShowLabel(Label label)
-{
-    const auto index = static_cast<std::size_t>(label);
-    const bool wasDanger = labels[index]->Colour() == colour::Danger;
-    if (label == Label::lblMessage) {
-        messageLine->Type(board.ShownText(label));
-    } else {
-        labels[index]->ShowText(board.ShownText(label));
-    }
-    labels[index]->SetColour(board.Colour(label));
-    if (board.IsDanger(label) && !wasDanger) {
+    GameLabel& shown = *labels[label];
+    const bool wasDanger = shown.Colour() == colour::Danger;
+    shown.ShowLabel(label);
+    if (!wasDanger && shown.Colour() == colour::Danger) {
         AlertTo(label);
     }
-    if (gauges[index]) {
-        ShowGauge(label);
-    } else if (label == Label::lblGameLevel) {
-        ShowGauge(Label::lblMoney); // the level sets the sum that fills it
+    // The level, too, sets the sum that fills the bar of the money.
+    if (label != Label::lblTime && label != Label::lblMessage) {
+        for (Gauge* gauge : gauges) {
+            gauge->update();
+        }
     }
 }
 
 /// A screen reader speaks up when a statistic turns red.
 void frmMain::AlertTo(Label label)
 {
-    QAccessibleEvent alert(labels[static_cast<std::size_t>(label)], QAccessible::Alert);
+    QAccessibleEvent alert(labels[label], QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
-}
-
-void frmMain::ShowGauge(Label label)
-{
-    Gauge& gauge = *gauges[static_cast<std::size_t>(label)];
-    const QString& text = board.ShownText(label);
-    if (label == Label::lblMoney) {
-        gauge.Show(NumberIn(text), GameState.WinMoney.value());
-    } else if (label == Label::lblStatus) {
-        gauge.Show(RankOf(text), 8);
-    } else {
-        gauge.Show(NumberIn(text), 100, board.IsDanger(label));
-    }
 }
 
 void frmMain::closeEvent(QCloseEvent* event)

@@ -2,14 +2,12 @@
 
 #include <QMainWindow>
 
-#include <array>
 #include <functional>
+#include <vector>
 
-#include "core/port.h"
-#include "ui/widgets/board.h"
+#include "core/labels.h"
+#include "ui/widgets/gamelabel.h"
 #include "ui/widgets/gauge.h"
-#include "ui/widgets/glyphs.h"
-#include "ui/widgets/label.h"
 #include "ui/widgets/scene.h"
 
 class QMenu;
@@ -18,22 +16,18 @@ class QTimer;
 namespace torvenhall
 {
 
-class GameButton;
-
 /// The player's dashboard: every statistic, the computer, the clock and the
 /// message line, and the buttons and menus that open everything else. It
 /// holds the clock's timer.
 class frmMain : public QMainWindow
 {
-    Q_OBJECT
-
 public:
-    explicit frmMain(LabelBoard& newBoard);
+    frmMain();
 
     /// The load routine: one tick for the time label, the picture, the timer.
     void Load();
-    /// tmrTime; a tick that waits in the event queue when it is disabled is
-    /// dropped.
+    void LabelChanged(Label label);
+    /// tmrTime.
     void EnableTimer(bool enabled);
 
 protected:
@@ -56,27 +50,21 @@ private:
 
     GameLabel* AddLabel(Label label, const QRectF& place, const QFont& font);
     GameLabel* AddCaption(const QString& text, const QRectF& place, double height);
-    void AddTile(const QString& caption, Label label, const QRectF& place, Gauge::Kind kind);
+    void AddTile(const QString& caption, Label label, const QRectF& place);
+    void AddGauge(const QRectF& tile, Gauge::Kind kind, Gauge::Reading (*reading)());
     void AddRow(const QString& caption, Label label, const QRectF& place);
     QMenu* AddMenu(const QString& title);
     QAction* AddItem(QMenu* menu, const char* name, const QString& text, const Command& command);
     static void AddSeparator(QMenu* menu, const char* name);
 
-    void ShowLabel(Label label);
-    void ShowGauge(Label label);
     void AlertTo(Label label);
-    void QueueTick();
     bool HandleKey(const QKeyEvent& event);
 
-    LabelBoard& board;
     Scene* scene;
     QTimer* tmrTime;
-    std::array<GameLabel*, LabelCount> labels{};
-    std::array<Gauge*, LabelCount> gauges{};
-    TerminalLabel* messageLine = nullptr;
+    EnumArray<Label, GameLabel*> labels{};
+    std::vector<Gauge*> gauges;
     QWidget* pauseVeil;
-    bool tickQueued = false;
-    int timerRun = 0; ///< tells the ticks of a disabled timer from new ones
 };
 
 } // namespace torvenhall

@@ -1,12 +1,17 @@
 // The dashboard of the main window: what stands where. All places in units.
 
-#include "game/commands.h"
+#include "core/GameState.h"
+#include "core/basGame.h"
+#include "core/shown.h"
+#include "equipment/hardware.h"
 #include "game/entry.h"
 #include "ui/frmMain.h"
-#include "ui/widgets/button.h"
+#include "ui/widgets/gamebutton.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
+#include "ui/widgets/terminallabel.h"
 #include "ui/widgets/theme.h"
+#include "ui/windows.h"
 
 namespace torvenhall
 {
@@ -27,8 +32,7 @@ constexpr double TileHeight = 40;
 constexpr double VitalsTop = FactsTop + TileHeight + Gap;
 constexpr double ComputerTop = VitalsTop + TileHeight + Gap;
 constexpr double RowHeight = 14.2;
-constexpr double ComputerHeight = 22 + 9 * RowHeight + 6;
-constexpr double SoftwareHeight = 22 + 7 * RowHeight + 2;
+constexpr double ComputerHeight = 22 + HardwareCategories * RowHeight + 6;
 constexpr double HardwareWidth = 266;
 constexpr double SoftwareWidth = Inner - Gap - HardwareWidth;
 constexpr double CaptionWidth = 72;
@@ -37,55 +41,50 @@ constexpr double MessageHeight = 55;
 constexpr double ButtonsTop = MessageTop + MessageHeight + Gap;
 constexpr double ButtonHeight = 27;
 
+// The order differs from that of the categories, and the other software is none.
 struct RowText {
     const char* caption;
     Label label;
 };
 
-constexpr RowText HardwareRows[] = {
-    {"Процессор", Label::lblhard0}, {"ОЗУ", Label::lblhard1},    {"Видеокарта", Label::lblhard2},
-    {"Винчестер", Label::lblhard3}, {"CD-ROM", Label::lblhard4}, {"Модем", Label::lblhard5},
-    {"Звук", Label::lblhard6},      {"Сканер", Label::lblhard7}, {"Принтер", Label::lblhard8},
-};
 constexpr RowText SoftwareRows[] = {
     {"ОС:", Label::lblOs},           {"Прог-е:", Label::lblProg},   {"Антивирус:", Label::lblAntiv},
     {"Графика:", Label::lblGraphic}, {"Интернет:", Label::lblInet}, {"Игра:", Label::lblGames},
     {"Прочее:", Label::lblOther},
 };
 
-struct ButtonText {
-    const char* name;
-    const char* caption;
-    Glyph glyph;
-    void (*command)();
-};
+constexpr double SoftwareHeight = 22 + std::size(SoftwareRows) * RowHeight + 2;
 
-template <Window window>
-void Open()
+constexpr int ButtonsInRow = 4;
+
+Gauge::Reading Money()
 {
-    Windows().OpenWindow(window);
+    const double target = GameState.WinMoney.value();
+    return {.share = target > 0 ? GameState.Money.value() / target : 0};
 }
 
-constexpr ButtonText MainButtons[] = {
-    {"cmdHard", "Железо", Glyph::Chip, Open<Window::frmHard>},
-    {"cmdSoft", "Программы", Glyph::Diskette, Open<Window::frmSoft>},
-    {"cmdHappy", "Развлечения", Glyph::Dice, Open<Window::frmHappy>},
-    {"cmdHealth", "Больница", Glyph::Cross, Open<Window::frmHospital>},
-    {"cmdShop", "Магазин", Glyph::Basket, Open<Window::frmShop>},
-    {"cmdWork", "Работа", Glyph::Briefcase, Open<Window::frmWork>},
-    {"cmdSchool", "Школа", Glyph::Book, Open<Window::frmEducation>},
-    {"cmdInInet", "Выход в свет", Glyph::Globe, GoOnline},
-};
-constexpr int ButtonsInRow = 4;
+Gauge::Reading Rank()
+{
+    const int rank = GameState.Education.value();
+    const bool hasWord = !ShowStatus(rank).empty();
+    return {.share = hasWord ? static_cast<double>(rank) / TopRank : 0, .steps = TopRank};
+}
+
+template <Int16 Game::*field, Label label>
+Gauge::Reading Percent()
+{
+    return {.share = (GameState.*field).value() / 100.0,
+            .danger = ShownAt(label).colour == TextColour::Red};
+}
 
 } // namespace
 
 GameLabel* frmMain::AddLabel(Label label, const QRectF& place, const QFont& font)
 {
-    auto* shown = new GameLabel(Text(LabelName(label)), font, scene);
+    auto* shown = new GameLabel(Text(LabelNames[label]), font, scene);
     shown->setGeometry(PxRect(place));
     shown->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    labels[static_cast<std::size_t>(label)] = shown;
+    labels[label] = shown;
     return shown;
 }
 
@@ -113,25 +112,26 @@ void frmMain::BuildClock()
     work->setAlignment(Qt::AlignCenter);
 }
 
-void frmMain::AddTile(const QString& caption, Label label, const QRectF& place, Gauge::Kind kind)
+void frmMain::AddTile(const QString& caption, Label label, const QRectF& place)
 {
     const bool mayTurnRed = place.top() >= VitalsTop;
     scene->AddPanel(place, mayTurnRed ? Scene::Panel::Deep : Scene::Panel::Glass);
     const QRectF inside = place.adjusted(9, 0, -9, 0);
     AddCaption(caption, {inside.left(), place.top() + 2, inside.width(), 15}, 10.5);
-    const bool bare = label == Label::lblFamily;
-    GameLabel* value =
-        AddLabel(label, {inside.left(), place.top() + 15, inside.width(), bare ? 20.0 : 18.0},
-                 TextFont(15, true));
+    const double height = label == Label::lblFamily ? 20 : 18;
+    GameLabel* value = AddLabel(label, {inside.left(), place.top() + 15, inside.width(), height},
+                                TextFont(15, true));
     value->SetSpokenCaption(caption);
     if (label == Label::lblMoney) {
         value->FlashChanges();
     }
-    if (!bare) {
-        auto* gauge = new Gauge(kind, scene);
-        gauge->setGeometry(PxRect({inside.left(), place.top() + 34, inside.width(), 3}));
-        gauges[static_cast<std::size_t>(label)] = gauge;
-    }
+}
+
+void frmMain::AddGauge(const QRectF& tile, Gauge::Kind kind, Gauge::Reading (*reading)())
+{
+    auto* gauge = new Gauge(kind, reading, scene);
+    gauge->setGeometry(PxRect({tile.left() + 9, tile.top() + 34, tile.width() - 18, 3}));
+    gauges.push_back(gauge);
 }
 
 void frmMain::BuildStatistics()
@@ -140,18 +140,34 @@ void frmMain::BuildStatistics()
     const auto fact = [&](int i) {
         return QRectF(Left + i * (third + Gap), FactsTop, third, TileHeight);
     };
-    AddTile("Бюджет", Label::lblMoney, fact(0), Gauge::Kind::Share);
-    AddTile("Статус", Label::lblStatus, fact(1), Gauge::Kind::Steps);
-    AddTile("Семья", Label::lblFamily, fact(2), Gauge::Kind::Share);
+    AddTile("Бюджет", Label::lblMoney, fact(0));
+    AddGauge(fact(0), Gauge::Kind::Share, Money);
+    AddTile("Статус", Label::lblStatus, fact(1));
+    AddGauge(fact(1), Gauge::Kind::Steps, Rank);
+    AddTile("Семья", Label::lblFamily, fact(2));
 
-    const double quarter = (Inner - 3 * Gap) / 4;
-    const auto vital = [&](int i) {
-        return QRectF(Left + i * (quarter + Gap), VitalsTop, quarter, TileHeight);
+    struct {
+        const char* caption;
+        Label label;
+        Gauge::Kind kind;
+        Gauge::Reading (*reading)();
+    } const vitals[]{
+        {"Настроение", Label::lblHappy, Gauge::Kind::AroundZero,
+         Percent<&Game::Happy, Label::lblHappy>},
+        {"Сытость", Label::lblEat, Gauge::Kind::AroundZero,
+         Percent<&Game::EatLevel, Label::lblEat>},
+        {"Здоровье", Label::lblHealth, Gauge::Kind::AroundZero,
+         Percent<&Game::Health, Label::lblHealth>},
+        {"Образование", Label::lblEducation, Gauge::Kind::Share,
+         Percent<&Game::Intelligence, Label::lblEducation>},
     };
-    AddTile("Настроение", Label::lblHappy, vital(0), Gauge::Kind::AroundZero);
-    AddTile("Сытость", Label::lblEat, vital(1), Gauge::Kind::AroundZero);
-    AddTile("Здоровье", Label::lblHealth, vital(2), Gauge::Kind::AroundZero);
-    AddTile("Образование", Label::lblEducation, vital(3), Gauge::Kind::Share);
+    const double quarter = (Inner - 3 * Gap) / 4;
+    QRectF place(Left, VitalsTop, quarter, TileHeight);
+    for (const auto& vital : vitals) {
+        AddTile(vital.caption, vital.label, place);
+        AddGauge(place, vital.kind, vital.reading);
+        place.translate(quarter + Gap, 0);
+    }
 }
 
 void frmMain::AddRow(const QString& caption, Label label, const QRectF& place)
@@ -174,8 +190,8 @@ void frmMain::BuildComputer()
     AddCaption("Компьютер (Software)", {second + 9, ComputerTop + 4, softwareText, 15}, 11.5)
         ->SetColour(colour::Warm);
     double top = ComputerTop + 22;
-    for (const RowText& row : HardwareRows) {
-        AddRow(row.caption, row.label, {Left + 9, top, hardwareText, RowHeight});
+    for (const HardwareCategory& row : Hardware) {
+        AddRow(Text(row.name), row.label, {Left + 9, top, hardwareText, RowHeight});
         top += RowHeight;
     }
     top = ComputerTop + 22;
@@ -196,26 +212,30 @@ void frmMain::BuildMessageLine()
 {
     const QRectF place(Left, MessageTop, Inner, MessageHeight);
     scene->AddPanel(place, Scene::Panel::Deep);
-    messageLine = new TerminalLabel(Text(LabelName(Label::lblMessage)), TerminalFont(11), scene);
+    auto* messageLine =
+        new TerminalLabel(Text(LabelNames[Label::lblMessage]), TerminalFont(11), scene);
     messageLine->setGeometry(PxRect(place.adjusted(9, 2, -8, -1)));
     messageLine->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     messageLine->setWordWrap(true);
-    labels[static_cast<std::size_t>(Label::lblMessage)] = messageLine;
+    labels[Label::lblMessage] = messageLine;
 }
 
 void frmMain::BuildButtons()
 {
     const double width = (Inner - (ButtonsInRow - 1) * Gap) / ButtonsInRow;
     int i = 0;
-    for (const ButtonText& each : MainButtons) {
-        auto* button = new GameButton(each.name, each.caption, scene);
+    for (const WindowRow& row : WindowTable()) {
+        if (row.button == nullptr) {
+            continue;
+        }
+        auto* button = new GameButton(row.button, row.caption, scene);
         const double left = Left + (i % ButtonsInRow) * (width + Gap);
         const double top = ButtonsTop + (i / ButtonsInRow) * (ButtonHeight + Gap);
         button->setGeometry(PxRect({left, top, width, ButtonHeight}));
-        button->SetGlyph(each.glyph);
+        button->SetGlyph(row.glyph);
         button->installEventFilter(this);
         connect(button, &QAbstractButton::clicked, this,
-                [command = each.command] { EnterRules(command); });
+                [&row] { EnterRules([&row] { Open(row); }); });
         ++i;
     }
 }

@@ -3,24 +3,20 @@
 #include <QMenuBar>
 
 #include "core/basGame.h"
+#include "core/port.h"
 #include "game/commands.h"
 #include "game/entry.h"
 #include "game/newgame.h"
 #include "game/programs.h"
 #include "savegame/savegame.h"
 #include "ui/frmMain.h"
+#include "ui/windows.h"
 
 namespace torvenhall
 {
 
 namespace
 {
-
-template <Window window>
-void Open()
-{
-    Windows().OpenWindow(window);
-}
 
 template <int chosen>
 void ChooseLevel()
@@ -74,15 +70,12 @@ void frmMain::BuildFileMenu()
 void frmMain::BuildGameMenu()
 {
     QMenu* menu = AddMenu("&Игра");
-    AddItem(menu, "mnuGameUpgrade", "Апгрейд компьютера", Open<Window::frmHard>);
-    AddItem(menu, "mnuGameSoft", "Установка ПО", Open<Window::frmSoft>);
-    AddItem(menu, "mnuGameHappy", "Развлечения", Open<Window::frmHappy>);
-    AddItem(menu, "mnuGameHosp", "Больница", Open<Window::frmHospital>);
-    AddItem(menu, "mnuGameShop", "Магазин", Open<Window::frmShop>);
-    AddItem(menu, "mnugameWork", "Центр занятости", Open<Window::frmWork>);
-    // The school is reached by its button only.
-    AddItem(menu, "mnuGameSchool", "Школа", {});
-    AddItem(menu, "mnuGameInNet", "Выход в свет", GoOnline);
+    for (const WindowRow& row : WindowTable()) {
+        if (row.item != nullptr) {
+            AddItem(menu, row.item, row.itemText,
+                    row.itemOpens ? Command([&row] { Open(row); }) : Command());
+        }
+    }
 }
 
 void frmMain::BuildSettingsMenus()
@@ -103,7 +96,7 @@ void frmMain::BuildHelpMenu()
     AddItem(menu, "mnuhelpReadme", "Справка", ShowReadme)->setShortcut(QKeySequence("F1"));
     AddItem(menu, "mnuHelpEULA", "Лицензионное соглашение", ShowLicence);
     AddSeparator(menu, "mnuHelpS1");
-    AddItem(menu, "mnuHelpAbout", "О программе...", Open<Window::frmAbout>);
+    AddItem(menu, "mnuHelpAbout", "О программе...", [] { Windows().OpenWindow("frmAbout"); });
 }
 
 } // namespace torvenhall

@@ -1,6 +1,6 @@
 #include "ui/frmNetwork.h"
 
-#include <QPainter>
+#include <QPointer>
 #include <QTextEdit>
 #include <QTimer>
 
@@ -10,6 +10,7 @@
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/theme.h"
+#include "ui/widgets/waitmark.h"
 
 namespace torvenhall
 {
@@ -26,45 +27,14 @@ constexpr double BoardLeft = 14 + InternetWidth + 10;
 constexpr double BoardWidth = Width - 14 - BoardLeft;
 
 constexpr int RefreshMilliseconds = 100;
-constexpr int MarkSteps = 12;
 
 constexpr double SiteShown = 120 / 15.0;     // where a site panel stands when it is shown,
 constexpr double SiteHidden = -10000 / 15.0; // and where it is put away
 
 } // namespace
 
-WaitMark::WaitMark(QWidget* parent) : QWidget(parent)
-{
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-}
-
-void WaitMark::Step(bool waits)
-{
-    if (waits || waiting != waits) {
-        waiting = waits;
-        step = waits ? (step + 1) % MarkSteps : 0;
-        update();
-    }
-}
-
-void WaitMark::paintEvent(QPaintEvent*)
-{
-    QPainter painter(this);
-    painter.fillRect(rect(), QColor(255, 255, 255, 22));
-    if (!waiting) {
-        return;
-    }
-    const double block = width() / 4.0;
-    const double left = (width() + block) * step / MarkSteps - block;
-    QLinearGradient light(left, 0, left + block, 0);
-    light.setColorAt(0, QColor(192, 255, 255, 0));
-    light.setColorAt(1, colour::LightCyan);
-    painter.fillRect(QRectF(left, 0, block, height()), light);
-}
-
-frmNetwork::frmNetwork(LabelBoard& board, QWidget* parent)
-    : ActivityWindow({"frmNetwork", "Выход в свет", "NET", Width, Height}, board, parent),
-      refresh(new QTimer(this))
+frmNetwork::frmNetwork(QWidget* parent)
+    : ActivityWindow({"frmNetwork", "Выход в свет", "NET", Width, Height}, parent)
 {
     AddSlogan("Label6", "Label7", "Всемирная паутина и один паук", {20, 14, Width - 40, 34});
     BuildInternet();
@@ -72,8 +42,9 @@ frmNetwork::frmNetwork(LabelBoard& board, QWidget* parent)
     BuildBoard();
     AddBack("Command9");
     ShowSite(-1);
-    refresh->setInterval(RefreshMilliseconds);
-    connect(refresh, &QTimer::timeout, this, &frmNetwork::RefreshChoices);
+    auto* refresh = new QTimer(this);
+    connect(refresh, &QTimer::timeout, this, &frmNetwork::ShowLines);
+    refresh->start(RefreshMilliseconds);
 }
 
 GameButton* frmNetwork::AddCommand(const char* name, const QString& caption, const QRectF& place,
@@ -83,7 +54,7 @@ GameButton* frmNetwork::AddCommand(const char* name, const QString& caption, con
     button->setParent(panel);
     button->setGeometry(PxRect(place));
     if (command) {
-        connect(button, &QAbstractButton::clicked, this, [this, command] { Choose(command); });
+        connect(button, &QAbstractButton::clicked, this, [command] { Act(command); });
     }
     return button;
 }
@@ -207,9 +178,8 @@ void frmNetwork::Load()
     if (!pictureLoaded) {
         pictureLoaded = true;
         ActivityWindow::Load();
-        refresh->start();
     }
-    RefreshChoices();
+    ShowLines();
 }
 
 void frmNetwork::ShowLine(GameLabel* status, const std::string& text, WaitMark* mark, bool waits)
@@ -219,7 +189,7 @@ void frmNetwork::ShowLine(GameLabel* status, const std::string& text, WaitMark* 
     mark->Step(waits);
 }
 
-void frmNetwork::RefreshChoices()
+void frmNetwork::ShowLines()
 {
     const NetworkState& network = Network();
     ShowLine(inetStatus, network.inetStatus, inetMark, network.inetWaits != 0);
@@ -244,7 +214,14 @@ void frmNetwork::ShowSite(int location)
 void frmNetwork::ShowAnecdote()
 {
     // Any error leaves the previous text.
-    Act([this] { TrappedSilently([this] { anecdote->setPlainText(Text(GetAnecdote())); }); });
+    Act([box = QPointer(anecdote)] {
+        TrappedSilently([box] {
+            const QString told = Text(GetAnecdote());
+            if (box) {
+                box->setPlainText(told);
+            }
+        });
+    });
 }
 
 } // namespace torvenhall

@@ -5,45 +5,26 @@
 #include "ui/widgets/activitywindow.h"
 
 class QTextEdit;
-class QTimer;
 
 namespace torvenhall
 {
 
-/// A bar beside a status line that moves while the line waits.
-class WaitMark : public QWidget
-{
-public:
-    explicit WaitMark(QWidget* parent);
-    /// Whether something waits; each call while it does moves the mark.
-    void Step(bool waits);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    bool waiting = false;
-    int step = 0;
-};
+class WaitMark;
 
 /// The dial-up network: the Internet with its three sites on the left, the
 /// bulletin board on the right. The lines live in the rules; the window shows
 /// them, also after it was closed and opened again.
 class frmNetwork : public ActivityWindow
 {
-    Q_OBJECT
-
 public:
     static constexpr int Sites = 3;
 
-    frmNetwork(LabelBoard& board, QWidget* parent);
+    explicit frmNetwork(QWidget* parent);
 
     void Load() override;
 
-protected:
-    void RefreshChoices() override;
-
 private:
+    void ShowLines();
     void BuildInternet();
     void BuildSites();
     void BuildBoard();
@@ -58,7 +39,6 @@ private:
     void ShowLine(GameLabel* status, const std::string& text, WaitMark* mark, bool waits);
 
     bool pictureLoaded = false;
-    QTimer* refresh;
     GameButton *inetDial, *bbsDial, *download;
     GameLabel *inetStatus, *bbsStatus;
     WaitMark *inetMark, *bbsMark;

@@ -1,6 +1,5 @@
 #include "ui/frmPause.h"
 
-#include "core/port.h"
 #include "game/clock.h"
 #include "savegame/savegame.h"
 #include "ui/widgets/pictures.h"
@@ -21,9 +20,12 @@ frmPause::frmPause(QWidget* parent) : GameWindow("frmPause", 320, 204, parent)
     GameButton* minimise = AddButton("Command3", "Свернуть игру", {50, 146, 220, 30});
     minimise->SetGlyph(Glyph::Minimise);
     connect(resume, &QAbstractButton::clicked, this, &frmPause::reject);
-    connect(save, &QAbstractButton::clicked, this, [this] { Act(SaveGame); });
-    connect(minimise, &QAbstractButton::clicked, this,
-            [this] { Act([] { Windows().MinimiseMainWindow(); }); });
+    connect(save, &QAbstractButton::clicked, this, [] { Act(SaveGame); });
+    connect(minimise, &QAbstractButton::clicked, this, [this] {
+        if (QWidget* main = parentWidget()) {
+            main->showMinimized();
+        }
+    });
 }
 
 void frmPause::reject()

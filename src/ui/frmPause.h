@@ -8,8 +8,6 @@ namespace torvenhall
 /// The pause window. The main window stays usable beside it.
 class frmPause : public GameWindow
 {
-    Q_OBJECT
-
 public:
     explicit frmPause(QWidget* parent);
 

@@ -12,8 +12,6 @@ namespace torvenhall
 /// The name dialog at the start of every game: name and difficulty.
 class frmPlayerName : public GameWindow
 {
-    Q_OBJECT
-
 public:
     frmPlayerName(const NewPlayer& shown, QWidget* parent);
 

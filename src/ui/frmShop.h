@@ -8,12 +8,8 @@ namespace torvenhall
 /// The food shop: sells satiety.
 class frmShop : public ServiceSeller
 {
-    Q_OBJECT
-
 public:
-    frmShop(LabelBoard& board, QWidget* parent) : ServiceSeller("frmShop", FoodShop, board, parent)
-    {
-    }
+    explicit frmShop(QWidget* parent) : ServiceSeller("frmShop", FoodShop, parent) {}
 };
 
 } // namespace torvenhall

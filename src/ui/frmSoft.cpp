@@ -5,10 +5,10 @@
 namespace torvenhall
 {
 
-frmSoft::frmSoft(LabelBoard& board, QWidget* parent)
+frmSoft::frmSoft(QWidget* parent)
     : EquipmentShop({"frmSoft", "Софт", "SOFT"},
                     {"cmdUpgrade", SoftwareCategories, 320, SoftwareOffer, InstallNextSoftware},
-                    board, parent)
+                    parent)
 {
     AddSlogan("Label4", "cmdUpgraded", "А Вы удалили MS DOS 1.0?", {20, 14, 520, 34});
 }

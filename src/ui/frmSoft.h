@@ -9,10 +9,8 @@ namespace torvenhall
 /// costs money here.
 class frmSoft : public EquipmentShop
 {
-    Q_OBJECT
-
 public:
-    frmSoft(LabelBoard& board, QWidget* parent);
+    explicit frmSoft(QWidget* parent);
 
 protected:
     void RefreshChoices() override {}

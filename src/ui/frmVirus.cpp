@@ -1,5 +1,8 @@
 #include "ui/frmVirus.h"
 
+#include <QPointer>
+#include <QScopeGuard>
+
 #include "activities/virus.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/pictures.h"
@@ -44,8 +47,15 @@ frmVirus::frmVirus(QWidget* parent) : GameWindow("frmVirus", Width, Height, pare
 void frmVirus::Answer(void (*deed)())
 {
     // Pressed once: while the outcome's box is open the window waits behind it.
-    Act(deed);
-    done(QDialog::Accepted);
+    Act([deed, window = QPointer<QDialog>(this)] {
+        // However it ends. What waits for the window goes on after this routine.
+        const auto close = qScopeGuard([&] {
+            if (window) {
+                window->done(QDialog::Accepted);
+            }
+        });
+        deed();
+    });
 }
 
 } // namespace torvenhall

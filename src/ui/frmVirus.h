@@ -9,8 +9,6 @@ namespace torvenhall
 /// neither Esc nor its close box.
 class frmVirus : public GameWindow
 {
-    Q_OBJECT
-
 public:
     explicit frmVirus(QWidget* parent);
 

@@ -6,8 +6,7 @@
 namespace torvenhall
 {
 
-frmWork::frmWork(LabelBoard& board, QWidget* parent)
-    : ActivityWindow({"frmWork", "Работа", "WORK"}, board, parent)
+frmWork::frmWork(QWidget* parent) : ActivityWindow({"frmWork", "Работа", "WORK"}, parent)
 {
     AddSlogan("Label2", "Label3", "Центр занятости населения", {20, 14, 520, 34});
     std::vector<std::pair<QString, QString>> captions;
@@ -18,7 +17,7 @@ frmWork::frmWork(LabelBoard& board, QWidget* parent)
     AddChoices({"Смена работы", "Label1", 440, 2}, captions);
     for (int i = 0; i < JobButtons; ++i) {
         connect(&Choice(static_cast<std::size_t>(i)), &QAbstractButton::clicked, this,
-                [this, i] { Choose([i] { ApplyForJob(i); }); });
+                [i] { Act([i] { ApplyForJob(i); }); });
     }
     AddBack("Command8");
 }

@@ -8,10 +8,8 @@ namespace torvenhall
 /// The employment centre: a button for each job of the ladder.
 class frmWork : public ActivityWindow
 {
-    Q_OBJECT
-
 public:
-    frmWork(LabelBoard& board, QWidget* parent);
+    explicit frmWork(QWidget* parent);
 };
 
 } // namespace torvenhall

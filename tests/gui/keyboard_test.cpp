@@ -1,216 +1,154 @@
-// Every window without a mouse: mnemonics, Tab, Esc, Enter, and what a screen
-// reader is told.
+// Every window without a mouse: mnemonics, Tab, Esc, Enter, the keys of the
+// main window, and what a screen reader is told.
 
 #include <QAccessible>
+#include <QKeyEvent>
 #include <QKeySequence>
+#include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSet>
 
 #include "network/network.h"
 #include "support/looks.h"
-#include "support/windows.h"
+#include "support/play.h"
+#include "ui/windows.h"
 
-namespace torvenhall::test
-{
-namespace
-{
+using namespace torvenhall;
+using namespace torvenhall::test;
 
-std::string Describe(const QWidget& control)
-{
-    return (control.objectName() + ' ' + TextOf(control)).toStdString();
-}
+struct Keyboard : Play {
+};
 
-QList<QWidget*> TabStops(const QWidget& window)
+TEST_F(Keyboard, EveryMenuHasAMnemonicOfItsOwn)
 {
-    QList<QWidget*> stops;
-    for (QWidget* each : window.findChildren<QWidget*>()) {
-        if (each->isVisible() && each->isEnabled() && (each->focusPolicy() & Qt::TabFocus) &&
-            each->window() == &window && !each->focusProxy() &&
-            !each->objectName().startsWith("qt_")) {
-            stops << each;
-        }
+    QSet<QString> used{""};
+    for (const QAction* action : Main().menuBar()->actions()) {
+        used << QKeySequence::mnemonic(action->text()).toString();
     }
-    return stops;
+    EXPECT_EQ(used.size(), Main().menuBar()->actions().size() + 1);
 }
 
-/// The controls that Tab visits in turn, until it comes round.
-QList<QWidget*> TabThrough(QWidget& window)
+TEST_F(Keyboard, TabVisitsAllThatCanBeUsedAndShowsAndSaysWhereItIs)
 {
-    QList<QWidget*> visited;
-    for (QWidget* now = window.focusWidget(); now && !visited.contains(now);
-         now = window.focusWidget()) {
-        visited << now;
-        Press(*now, Qt::Key_Tab);
-    }
-    return visited;
-}
-
-TEST_F(EveryWindow, UsesNoMnemonicTwice)
-{
-    ForEach([](const WindowRow&, QWidget& window) {
-        QSet<QString> used;
-        const auto check = [&](const QString& text) {
-            const QString key = QKeySequence::mnemonic(text).toString();
-            EXPECT_TRUE(key.isEmpty() || !used.contains(key)) << text.toStdString();
-            used << key;
-        };
-        for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
-            check(button->text());
+    ForEachWindow([](QWidget& window) {
+        if (window.objectName() == "MessageBox") {
+            return; // the toolkit's own
         }
-        for (const QMenuBar* bar : window.findChildren<QMenuBar*>()) {
-            for (const QAction* action : bar->actions()) {
-                EXPECT_FALSE(QKeySequence::mnemonic(action->text()).isEmpty());
-                check(action->text());
-            }
+        QSet<QWidget*> stops;
+        for (QWidget* each : window.findChildren<QWidget*>()) {
+            const bool isStop = each->isVisible() && each->isEnabled() && !each->focusProxy() &&
+                                each->window() == &window && (each->focusPolicy() & Qt::TabFocus) &&
+                                !each->objectName().startsWith("qt_");
+            stops += isStop ? QSet<QWidget*>{each} : QSet<QWidget*>();
         }
-    });
-}
-
-TEST_F(EveryWindow, LeadsTabThroughAllThatCanBeUsedAndNothingElse)
-{
-    ForEach([](const WindowRow&, QWidget& window) {
-        const QList<QWidget*> stops = TabStops(window);
-        if (window.focusWidget() == nullptr && !stops.isEmpty()) {
+        QList<QWidget*> visited;
+        if (!window.focusWidget()) {
             Press(window, Qt::Key_Tab);
         }
-        const QList<QWidget*> visited = TabThrough(window);
+        for (; !visited.contains(window.focusWidget()); Press(*visited.last(), Qt::Key_Tab)) {
+            visited << window.focusWidget();
+        }
+        EXPECT_TRUE(QSet(visited.begin(), visited.end()) == stops);
         for (QWidget* each : stops) {
-            EXPECT_TRUE(visited.contains(each)) << Describe(*each) << " is out of reach";
-        }
-        for (QWidget* each : visited) {
-            EXPECT_TRUE(each->isVisible()) << Describe(*each) << " is hidden";
-        }
-        // The way back comes last.
-        const auto* back = window.findChild<QPushButton*>("Command8");
-        if (back && TextOf(*back) == "Назад" && !visited.isEmpty()) {
-            EXPECT_EQ(visited.last(), back);
-        }
-    });
-}
-
-TEST_F(EveryWindow, ShowsTheFocusNamesItsControlsAndHasNoDefaultButton)
-{
-    ForEach([](const WindowRow&, QWidget& window) {
-        for (QWidget* each : TabStops(window)) {
             each->setFocus(Qt::TabFocusReason);
             const QImage focused = Render(window);
             each->clearFocus();
-            EXPECT_NE(focused, Render(window)) << Describe(*each);
+            EXPECT_NE(focused, Render(window)) << each->objectName().toStdString();
             QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(each);
-            EXPECT_TRUE(reader && !reader->text(QAccessible::Name).isEmpty()) << Describe(*each);
-        }
-        for (const QPushButton* button : window.findChildren<QPushButton*>()) {
-            EXPECT_FALSE(button->isDefault() || button->autoDefault()) << Describe(*button);
+            EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty());
+            const auto* button = qobject_cast<QPushButton*>(each);
+            EXPECT_FALSE(button && (button->isDefault() || button->autoDefault()));
+            EXPECT_TRUE(TextOf(*each) != "Назад" || each == visited.last());
         }
     });
 }
 
-TEST_F(EveryWindow, TellsAScreenReaderEachStatisticsNameAndValue)
+TEST_F(Keyboard, EscTheCloseBoxAndTheWayBackCloseWhatTheyMay)
 {
-    EnterRules([] {
-        SetMoney(4210);
-        SetHappy(62);
-        SetEatLevel(-3);
-        SetHealth(17);
-        SetIntelligence(80);
-        SetEducation(5);
-    });
-    for (const auto& [control, told] : {std::pair{"lblMoney", "Бюджет: $4210"},
-                                        {"lblHappy", "Настроение: 62%"},
-                                        {"lblEat", "Сытость: -3%"},
-                                        {"lblHealth", "Здоровье: 17%"},
-                                        {"lblEducation", "Образование: 80%"},
-                                        {"lblStatus", "Статус: PROG-ER"},
-                                        {"lblFamily", "Семья: NO WIFE"}}) {
-        auto* reader = QAccessible::queryAccessibleInterface(&Control<QWidget>(&Main(), control));
-        EXPECT_TRUE(reader->text(QAccessible::Name).startsWith(told)) << control;
+    player.reacts = false;
+    for (const WindowRow& row : WindowTable()) {
+        const QString name = Text(row.name);
+        const QString back = name == "frmVirus"                         ? "Esc"
+                             : name == "frmNetwork"                     ? "Command9"
+                             : name == "frmPause" || name == "frmAbout" ? "Command1"
+                                                                        : "Command8";
+        for (const QString& way : {QString("Esc"), QString("close"), back}) {
+            name == "frmPause" ? Type(Main(), "p") : Do([&row] { Windows().OpenWindow(row.name); });
+            EXPECT_EQ(Find(name)->isModal(), name != "frmPause");
+            EXPECT_EQ(ClockTicks(), name != "frmPause");
+            Leave(name, way);
+            EXPECT_EQ(Find(name) != nullptr, name == "frmVirus") << row.name;
+            EXPECT_TRUE(ClockTicks());
+        }
+    }
+    // the virus and a question insist on an answer
+    Click("frmVirus", "Command2");
+    EXPECT_EQ(player.boxes, QStringList{"Сообщение: Вирус сожрал 1 баксов!"});
+    Say("OK");
+    Choose("mnuFileExit");
+    for (const char* way : {"Esc", "close"}) {
+        Leave("MessageBox", way);
+        EXPECT_TRUE(Find("MessageBox"));
     }
 }
 
-class Esc : public Play
+TEST_F(Keyboard, EnterInAFreshlyOpenedWindowCostsNothing)
 {
-protected:
-    Esc() { Begin(); }
-};
-
-constexpr std::pair<const char*, const char*> Activities[] = {
-    {"cmdHard", "frmHard"},       {"cmdSoft", "frmSoft"}, {"cmdHappy", "frmHappy"},
-    {"cmdHealth", "frmHospital"}, {"cmdShop", "frmShop"}, {"cmdWork", "frmWork"},
-    {"cmdSchool", "frmEducation"}};
-
-TEST_F(Esc, ClosesWhatTheWayBackAndTheCloseBoxClose)
-{
-    for (const auto& [button, window] : Activities) {
-        const std::function<void(QWidget&)> ways[]{
-            [](QWidget& open) { Press(open, Qt::Key_Escape); },
-            [](QWidget& open) { open.close(); },
-            [](QWidget& open) { Click(Control(&open, "Command8")); },
-        };
-        for (const auto& close : ways) {
-            Click("frmMain", button);
-            ASSERT_TRUE(Find(window) && Find(window)->isModal()) << window;
-            close(*Find(window));
-            EXPECT_FALSE(Find(window)) << window << " way " << &close - ways;
-        }
-    }
-}
-
-TEST_F(Esc, ResumesThePausedGame)
-{
-    for (const bool byKey : {true, false}) {
-        Type(Main(), "p");
-        ASSERT_FALSE(ClockTicks());
-        byKey ? Press(*Find("frmPause"), Qt::Key_Escape) : void(Find("frmPause")->close());
-        EXPECT_TRUE(ClockTicks() && !Find("frmPause"));
-    }
-}
-
-TEST_F(Esc, DoesNotAnswerAQuestionNorSpareTheVirus)
-{
-    const auto insist = [](QWidget& window) {
-        Press(window, Qt::Key_Escape);
-        window.close();
-        for (auto* button : window.findChildren<QPushButton*>()) {
-            Press(*button, Qt::Key_Escape);
-        }
-        EXPECT_TRUE(window.isVisible());
-    };
-    player.When("MessageBox", [&](QWidget& box) {
-        insist(box);
-        ClickCaption(box, "Да");
-    });
-    EXPECT_EQ(frontEnd.ShowMessageBox({"Сохранить?", "Вопрос", Icon::Question, Buttons::YesNo}),
-              Answer::Yes);
-    player.When("frmVirus", [&](QWidget& window) {
-        insist(window);
-        Click(Control(&window, "Command2"));
-    });
-    EnterRules([] { Windows().OpenWindow(Window::frmVirus); });
-    EXPECT_EQ(player.boxes.back(), "Сообщение: Вирус сожрал 1 баксов!");
-    EXPECT_EQ(GameState.Money, 14);
-}
-
-TEST_F(Esc, EnterInAFreshlyOpenedWindowCostsNothing)
-{
-    EnterRules([] { SetMoney(5000); });
-    GameState.HardComm = GameState.SoftBrowser = 1;
-    auto opened = std::vector(std::begin(Activities), std::end(Activities));
-    opened.emplace_back("cmdInInet", "frmNetwork");
-    for (const auto& [button, window] : opened) {
-        Click("frmMain", button);
-        QWidget& shown = *Find(window);
-        for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+    SetMoney(5000);
+    player.reacts = false;
+    for (const WindowRow& row : WindowTable()) {
+        for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+            Do([&row] { Windows().OpenWindow(row.name); });
+            QWidget& shown = *Find(Text(row.name));
             Press(shown.focusWidget() ? *shown.focusWidget() : shown, key);
-            QTest::qWait(120); // an animated click takes its time
-        }
-        EXPECT_EQ(GameState.Money, 5000) << window;
-        EXPECT_EQ(Network().inetStatus, "Status: Disconnected");
-        if (Find(window)) {
-            Press(*Find(window), Qt::Key_Escape);
+            EXPECT_TRUE(player.boxes.isEmpty()) << row.name;
+            Do([&row] { Windows().CloseWindow(row.name); });
         }
     }
+    EXPECT_EQ(GameState.Money, 5000);
+    EXPECT_EQ(Network().inetStatus, "Status: Disconnected");
 }
 
-} // namespace
-} // namespace torvenhall::test
+TEST_F(Keyboard, PauseAndCheatKeysActWhereverTheFocusIsAndOthersDoNot)
+{
+    auto& button = Control("frmMain", "cmdInInet");
+    for (const QString key : {"p", "з"}) {
+        for (QWidget* focused : {Find("frmMain"), static_cast<QWidget*>(&button)}) {
+            Type(*focused, key + key); // keeps one pause window
+            EXPECT_FALSE(ClockTicks());
+            EXPECT_EQ(OpenWindows(), (QStringList{"frmMain", "frmPause"}));
+            Click("frmPause", "Command1");
+        }
+    }
+    for (const auto& [key, end, money] : {std::tuple{"w", Qt::Key_Escape, 15},
+                                          {"w", Qt::Key_Return, 5015},
+                                          {"ц", Qt::Key_Return, 10015}}) {
+        player.When("InputBox", [end = end] {
+            auto& entry = Control<QLineEdit>("InputBox", "Text1");
+            Type(entry, "QUOKKAFOX");
+            Press(entry, end);
+        });
+        Type(button, key);
+        EXPECT_EQ(GameState.Money, money);
+    }
+    Type(button, "PWЗЦq1", Qt::ShiftModifier);
+    QMenu& menu = *Main().menuBar()->actions().first()->menu();
+    for (const QString key : {"p", "з", "w", "ц"}) {
+        for (const auto held : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier}) {
+            Type(button, key, held);
+        }
+        QKeyEvent repeated(QEvent::KeyPress, 0, Qt::NoModifier, key, true);
+        QApplication::sendEvent(&button, &repeated);
+        // Opened by its bar, a menu hands keys that it does not use on.
+        Main().menuBar()->setActiveAction(Main().menuBar()->actions().first());
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&menu));
+        Type(menu, key);
+        menu.close();
+        Click("frmMain", "cmdHealth");
+        Type(*Find("frmHospital"), key);
+        Click("frmHospital", "Command8");
+        EXPECT_EQ(OpenWindows(), QStringList{"frmMain"}) << key.toStdString();
+    }
+}

@@ -1,166 +1,121 @@
-// Life's end, the program's end and the clock, through the real windows.
+// Life's end and the program's end, through the real windows.
 
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QEventLoop>
 
 #include "core/traps.h"
-#include "core/waits.h"
+#include "equipment/basEquipment.h"
+#include "network/network.h"
 #include "support/play.h"
 
-namespace torvenhall::test
-{
-namespace
-{
+using namespace torvenhall;
+using namespace torvenhall::test;
 
-const QString Jumped =
-    "Критический уровень настроения: Вы спрыгнули с 15 этажа и разбились насмерть!!!";
-const QString Starved = "Желаю тебе быть большим и тольстым: Вы умерли голодной смертью!";
+struct Lives : Play {
+    const QString Jumped =
+        "Критический уровень настроения: Вы спрыгнули с 15 этажа и разбились насмерть!!!";
+    const QString Starved = "Желаю тебе быть большим и тольстым: Вы умерли голодной смертью!";
 
-class Ends : public Play
-{
-protected:
-    Ends() { Begin(); }
-
-    /// The next midnight starves.
-    void StarveAtMidnight()
+    static void Jump()
     {
-        EnterRules([] { SetEatLevel(-34); });
-        JustBeforeMidnight();
-        player.NextLifeIs("Новый");
+        Do([] { SetHappy(-80); });
     }
 };
 
-TEST_F(Ends, AFatalPurchaseTakesNothingFromTheNextLife)
+TEST_F(Lives, EndAnywhereAndBeginAfresh)
 {
-    EnterRules([] {
-        SetHappy(-30);
-        SetMoney(300);
-    });
-    Click("frmMain", "cmdHealth");
-    player.NextLifeIs("Новый");
-    Click("frmHospital", "Command5");
-    EXPECT_EQ(player.boxes, std::vector<QString>{Jumped});
-    EXPECT_EQ(player.dialogs, (std::vector<QString>{"MessageBox", "frmPlayerName"}));
-    ExpectFreshLife("Новый");
-}
-
-TEST_F(Ends, ADeathClosesAShopsRefusal)
-{
-    StarveAtMidnight();
-    EnterRules([] { SetMoney(14); });
-    Click("frmMain", "cmdShop");
-    player.When("MessageBox", [](QWidget&) { EnterTick(); });
-    Click("frmShop", "Command1");
-    EXPECT_EQ(player.boxes,
-              (std::vector<QString>{"Идиот!: Шеф-Повор: А ну убирайся отсюда!!!!!!", Starved}));
-    ExpectFreshLife("Новый");
-}
-
-TEST_F(Ends, ADeathCancelsASave)
-{
-    StarveAtMidnight();
-    player.When("frmLocGame", [](QWidget& dialog) {
-        EnterTick();
-        EXPECT_FALSE(dialog.isVisible());
-    });
-    Choose("mnuFileSavegame");
-    EXPECT_TRUE(SavedFiles().isEmpty());
-    ExpectFreshLife("Новый");
-}
-
-TEST_F(Ends, ADeathWhilePausedBeginsAnUnpausedLife)
-{
-    Type(Main(), "p");
-    player.NextLifeIs("Новый");
-    Click("frmMain", "cmdHealth");
-    EnterRules([] { SetHappy(-80); });
-    ExpectFreshLife("Новый");
-    EXPECT_TRUE(ClockTicks() && !Main().isMinimized());
-}
-
-/// Nothing has begun yet: the test begins it inside the event loop.
-class Loop : public Play
-{
-protected:
-    Loop() : Play(50) {}
-};
-
-TEST_F(Loop, CancellingTheNameAfterADeathInAShopEndsTheProgramPromptly)
-{
-    QElapsedTimer since;
-    const int code = RunInEventLoop([&] {
-        Begin();
-        EnterRules([] {
-            SetHappy(-60);
-            SetMoney(100);
-        });
-        Click("frmMain", "cmdShop");
-        player.When("frmPlayerName", [&](QWidget& dialog) {
-            since.start();
-            Click(Control(&dialog, "Command2"));
-        });
-        Click("frmShop", "Command4"); // the eggs with garlic are too much
-    });
-    EXPECT_EQ(code, 0);
-    EXPECT_LT(since.elapsed(), 1000);
-    EXPECT_EQ(player.boxes, std::vector<QString>{Jumped});
-    EXPECT_TRUE(OpenWindows().isEmpty());
-}
-
-TEST_F(Loop, TheTimeGoesOnBehindTheTypewriterButNoDayBegins)
-{
-    // given a quarrel at midnight, a fast clock, and the real timer hurried
-    std::vector<int> hours;
-    const int code = RunInEventLoop([&] {
-        Begin();
-        GameState.Married = GameState.WifeFound = True;
+    const std::pair<QStringList, std::function<void()>> deaths[]{
+        {{Jumped}, // a birth is paid after the mood it costs
+         [] {
+             SetHappy(-30);
+             SetMoney(300);
+             Click("frmMain", "cmdHealth");
+             Click("frmHospital", "Command5");
+         }},
+        {{"Идиот!: Шеф-Повор: А ну убирайся отсюда!!!!!!", Starved}, // under a shop's refusal
+         [this] {
+             SetMoney(14);
+             Click("frmMain", "cmdShop");
+             player.When("MessageBox", Tick);
+             Click("frmShop", "Command1");
+         }},
+        {{Starved}, // which cancels a save
+         [this] {
+             player.When("frmLocGame", Tick);
+             Choose("mnuFileSavegame");
+             EXPECT_TRUE(SavedFiles().isEmpty());
+         }},
+        {{Jumped}, // while paused, in a window
+         [this] {
+             Type(Main(), "p");
+             Click("frmMain", "cmdHealth");
+             Jump();
+         }},
+        {{Jumped}, // during a call
+         [] {
+             GameState.HardComm = GameState.SoftBrowser = 1;
+             Click("frmMain", "cmdInInet");
+             Click("frmNetwork", "Command1");
+             Jump();
+             EXPECT_EQ(Network().inetStatus, "Status: Disconnected");
+             EXPECT_TRUE(Network().inetDialEnabled);
+         }},
+        {{Jumped}, // while a message is typed
+         [this] {
+             BeginQuarrel();
+             Jump();
+         }},
+        {{"Наконец-то: Вы прошли всю игру"},
+         [] {
+             GameState.GameTime = {};
+             SetMoney(20000);
+             GameState.CurrWork = 12;
+             for (int i = 0; i < 9; ++i) {
+                 HardwareField(i) = 7;
+             }
+             Tick();
+         }},
+    };
+    for (const auto& [boxes, die] : deaths) {
+        player.boxes.clear();
+        player.NextLifeIs("Новый");
+        SetEatLevel(-34); // the next day starves
         JustBeforeMidnight();
-        GameState.GameSpeed = 60;
-        dice.values = {DrawOf(25, 50)};
-        Control<QTimer>("frmMain", "tmrTime").setInterval(4);
-        player.clockRuns = true;
-        const Meanwhile watch([&] {
-            if (!TextOf("frmMain", "lblMessage").isEmpty()) {
-                hours.push_back(GameState.GameTime.hour);
-                EXPECT_EQ(DateText(GameState.GameDate), "14.06.2001");
-            } else if (!hours.empty()) {
-                player.clockRuns = false;
-                QCoreApplication::exit(0);
-            }
-        });
-        QEventLoop().exec();
-    });
-    // then every hour of that day passed and the next one waited
-    EXPECT_EQ(code, 0);
-    ASSERT_GT(hours.size(), 20U);
-    EXPECT_LT(hours.front(), 12);
-    EXPECT_EQ(hours.back(), 23);
-    EXPECT_TRUE(std::is_sorted(hours.begin(), hours.end()));
+        die();
+        EXPECT_EQ(player.boxes, boxes);
+        ExpectFreshLife("Новый");
+    }
 }
 
-TEST_F(Loop, AnExceptionOutOfASlotIsReportedAndTheGameGoesOn)
+TEST_F(Lives, EveryWayOutEndsTheProgram)
 {
-    const int code = RunInEventLoop([&] {
-        Begin();
-        // from the top level, and from the loop of an open box
-        const auto fail = [](const std::function<void()>& thrower) {
-            QTimer::singleShot(0, qApp, thrower);
-            QCoreApplication::processEvents();
-        };
-        fail([] { throw RuntimeError{error::TypeMismatch, {}}; });
-        player.When("MessageBox", [&](QWidget& box) {
-            fail([] { throw std::runtime_error("a bug"); });
-            Click(*box.findChild<QAbstractButton*>());
-        });
-        EnterRules([] { MsgBox("Текст", "Окно", Icon::Information); });
-        Click("frmMain", "cmdShop");
-        EXPECT_TRUE(Find("frmShop"));
-        QCoreApplication::exit(0);
-    });
-    EXPECT_EQ(code, 0);
-    EXPECT_EQ(player.boxes.size(), 3U);
+    const std::function<void()> exit = [] { Choose("mnuFileExit"); }, die = Jump;
+    const std::function<void()> close = [this] { Main().close(), Settle(); };
+    for (const auto& [leave, answer, dialog, way] :
+         {std::tuple{exit, "Нет", "", ""},
+          {close, "Нет", "", ""},
+          {exit, "Да", "frmLocGame", "Esc"}, // even when the save is cancelled
+          {close, "Да", "frmLocGame", "Command1"},
+          {die, "OK", "frmPlayerName", "Esc"},
+          {die, "OK", "frmPlayerName", "close"},
+          {die, "OK", "frmPlayerName", "Command2"}}) {
+        Start();
+        player.When("MessageBox", [said = answer] { Say(said); });
+        if (*dialog) {
+            player.When(dialog, [name = dialog, by = way] { Leave(name, by); });
+        }
+        EXPECT_EQ(RunInEventLoop(leave), 0);
+        EXPECT_EQ(
+            player.boxes,
+            QStringList{answer == std::string("OK") ? Jumped : "Вопрос: Сохранить игру сейчас???"});
+        EXPECT_TRUE(OpenWindows().isEmpty() && SavedFiles().isEmpty());
+    }
 }
 
-} // namespace
-} // namespace torvenhall::test
+TEST_F(Lives, AnExceptionOutOfASlotIsReportedAndTheGameGoesOn)
+{
+    QTimer::singleShot(0, qApp, [] { throw std::runtime_error("a bug"); });
+    QTimer::singleShot(0, qApp, [] { throw RuntimeError{error::TypeMismatch}; });
+    EXPECT_TRUE(Until([this] { return player.boxes.size() == 2; }));
+    Click("frmMain", "cmdShop");
+    EXPECT_TRUE(Find("frmShop"));
+}

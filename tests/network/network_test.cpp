@@ -1,199 +1,140 @@
 #include "network/network.h"
 
-#include "core/basGame.h"
-#include "core/life.h"
-#include "equipment/basEquipment.h"
-#include "game/commands.h"
-#include "game/entry.h"
-#include "support/life.h"
-#include "system/convert.h"
+#include <cmath>
 
-namespace torvenhall::test
-{
-namespace
-{
+#include "game/commands.h"
+#include "support/life.h"
+
+using namespace torvenhall;
 
 class Lines : public BegunLife
 {
 protected:
-    /// Both lines as the window shows them, and which buttons work.
+    /// Both lines as the window shows them, which buttons work, and a star for
+    /// each pause that runs.
     static std::string Shown()
     {
-        const NetworkState& lines = Network();
-        return lines.inetStatus.substr(8) + "/" + lines.bbsStatus.substr(8) +
-               (lines.inetDialEnabled ? " 1" : "") + (lines.bbsDialEnabled ? " 5" : "") +
-               (lines.downloadEnabled ? " 6" : "");
+        const NetworkState& now = Network();
+        EXPECT_TRUE(now.inetStatus.starts_with("Status: ") &&
+                    now.bbsStatus.starts_with("Status: "));
+        const auto stars = static_cast<std::size_t>(now.inetWaits + now.bbsWaits);
+        return now.inetStatus.substr(8) + "/" + now.bbsStatus.substr(8) +
+               (now.inetDialEnabled ? " 1" : "") + (now.bbsDialEnabled ? " 5" : "") +
+               (now.downloadEnabled ? " 6" : "") + std::string(stars, '*');
     }
 
-    /// What the following pauses show, each with the half second of its end:
-    /// rounding ends each a little more than half a second early.
-    void WatchPauses(int count)
+    /// Writes down what each text of a button is, for how many seconds it
+    /// stays, and what comes of it.
+    void Press(const std::string& what, void (*button)(), float draw = 0)
     {
-        for (int i = 0; i < count; ++i) {
-            player.duringWait.emplace_back([this] {
-                const double halves = Round((player.seconds - began) * 2) / 2;
-                pauses.push_back(DecimalOf(halves) + " " + Shown());
-            });
-        }
-        pauses.clear();
-        began = player.seconds;
+        dice.values = {draw};
+        lines.push_back(what + ":");
+        double began = player.seconds;
+        const auto show = [&] {
+            if (!lines.back().ends_with(":")) {
+                lines.back() += ", " + DecimalOf(std::ceil(player.seconds - began)) + " s |";
+            }
+            lines.back() += " " + Shown();
+            began = player.seconds;
+        };
+        player.atEachWait = [&] {
+            show();
+            EXPECT_EQ(player.journal.back(), "reload frmNetwork") << "the window shows it";
+        };
+        const std::string outcome = Outcome([=] { EnterRules(button); });
+        show();
+        player.atEachWait = [] {};
+        const std::size_t label = outcome.find("lbl"), money = outcome.find("Money");
+        const std::size_t at = std::min({label, money, outcome.size()});
+        lines.back() = Joined({lines.back(), outcome.substr(at)});
     }
 
-    /// The player enters the rules with this during the next pause.
-    void InTheNextPause(void (*handler)())
+    /// Both lines as in a fresh program, but for one of them up.
+    static void Fresh(void (*dial)())
     {
-        player.duringWait.emplace_back([handler] { EnterRules(handler); });
+        const Game life = GameState;
+        ResetRules();
+        GameState = life;
+        Assign("HardComm=1 SoftBrowser=1");
+        dial();
     }
-
-    Texts pauses;
-    double began = 0;
 };
 
-TEST_F(Lines, DiallingTheInternetShowsEachStepForItsSeconds)
+TEST_F(Lines, EveryButtonShowsItsTextsForTheirSeconds)
 {
-    WatchPauses(4);
-    DialInternet();
-    EXPECT_EQ(pauses,
-              (Texts{"0.5 Initializing.../Disconnected 5 6", "5 Dialing 555-28-64/Disconnected 5 6",
-                     "5.5 Connecting.../Disconnected 5 6", "8 Verifying.../Disconnected 5 6"}));
-    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
-    EXPECT_EQ(Network().InetConnected, True);
-
-    WatchPauses(1);
-    DialInternet();
-    EXPECT_EQ(pauses, (Texts{"0.5 Disconnecting.../Disconnected 5 6"}));
-    EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
-}
-
-TEST_F(Lines, DiallingTheBoardHasNoVerifyingStepAndCostsNothing)
-{
-    WatchPauses(3);
-    DialBoard();
-    EXPECT_EQ(pauses,
-              (Texts{"0.5 Disconnected/Initializing... 1 6", "5 Disconnected/Dialing 555-91-00 1 6",
-                     "5.5 Disconnected/Connecting... 1 6"}));
-    EXPECT_EQ(Shown(), "Disconnected/Connected 1 5 6");
-    EXPECT_EQ(Network().BbsConnected, True);
+    player.open = {"frmNetwork"};
+    Press("Internet", DialInternet);
     NetworkHourTick();
-
-    WatchPauses(1);
-    DialBoard();
-    EXPECT_EQ(pauses, (Texts{"0.5 Disconnected/Disconnecting... 1 6"}));
-    EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
-    EXPECT_EQ(GameState.Money, 15);
-}
-
-TEST_F(Lines, WhileOneLineIsUpTheOthersButtonDoesNothingUnlessBothAreDialledTogether)
-{
-    DialBoard();
-    WatchPauses(1);
+    Press("board, refused", DialBoard);
+    Press("software", DownloadSoftware, 0.7F);
+    Press("antivirus", DownloadAntivirus, 0.2F);
+    Press("software, nothing", DownloadSoftware);
+    Press("Internet, after an hour", DialInternet);
+    NetworkHourTick();
+    Press("board", DialBoard);
+    NetworkHourTick();
+    Press("Internet, refused", DialInternet);
+    Press("receive", ReceiveFromBoard, 0.5F);
+    Press("receive, nothing", ReceiveFromBoard);
+    Press("send, two and a half", SendToBoard, 0.25F);
+    Press("send, seven and a half", SendToBoard, 0.75F);
+    Press("board", DialBoard);
     DialInternet();
-    EXPECT_EQ(Shown(), "Disconnected/Connected 1 5 6");
-    DialBoard();
-    DialInternet();
-    WatchPauses(1);
-    DialBoard();
-    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
-    EXPECT_EQ(pauses, Texts{});
-
-    player.duringWait.clear();
-    DialInternet();
-    InTheNextPause(DialBoard);
-    DialInternet();
-    EXPECT_EQ(Shown(), "Connected/Connected 1 5 6");
-}
-
-TEST_F(Lines, SessionsOfThreeAndTwoHoursBillThreeAndThenFiveDollars)
-{
-    for (const auto& [hours, money] : {std::pair{3, 15 - 3}, {1, 15 - 3 - 5}}) {
-        DialInternet();
-        for (int i = 0; i < hours; ++i) {
-            NetworkHourTick();
-        }
-        if (hours == 1) {
-            InTheNextPause(NetworkHourTick); // one that passes while hanging up
-        }
-        DialInternet();
-        EXPECT_EQ(GameState.Money, money);
-        NetworkHourTick(); // not online: not billed
+    NetworkHourTick();
+    Meanwhile(NetworkHourTick); // one that passes while hanging up
+    Press("Internet, after two more", DialInternet);
+    for (const std::string& site :
+         Grouped(-1, 3, [](int i) { return std::string(SiteAddress(i)); })) {
+        lines.push_back("site " + site);
     }
+    ExpectKept("network.txt", lines);
 }
 
-TEST_F(Lines, AReceivedFileAddsItsMegabytesAndASentOneNothing)
+TEST_F(Lines, WhateverHappensInAPauseLeavesLinesAndButtonsRight)
 {
-    DialBoard();
-    dice.values = {DrawOf(5, 10), DrawOf(10, 10), 0.25F, 0.75F};
-    WatchPauses(4);
-    ReceiveFromBoard();
-    EXPECT_EQ(LabelShown(lblOther), "5 Мб");
-    for (int i = 0; i < 3; ++i) {
-        SendToBoard();
-    }
-    EXPECT_EQ(GameState.SoftSize, 5);
-    // A quarter and three quarters of ten are rounded half to even.
-    EXPECT_EQ(pauses, (Texts{"4.5 Disconnected/Receiving 5120 Data... 1 5 6",
-                             "14 Disconnected/Sending 10240 Data... 1 5 6",
-                             "15.5 Disconnected/Sending 2048 Data... 1 5 6",
-                             "23 Disconnected/Sending 8192 Data... 1 5 6"}));
-    EXPECT_EQ(Shown(), "Disconnected/Connected 1 5 6");
-
-    dice.values = {DrawOf(0, 10)};
-    player.open.insert(Window::frmNetwork);
-    player.Forget();
-    WatchPauses(1);
-    ReceiveFromBoard();
-    EXPECT_EQ(pauses, Texts{}) << "nothing takes no time";
-    EXPECT_EQ(player.journal, (Texts{"reload frmNetwork", "reload frmNetwork", "lblOther=5 Мб"}));
-}
-
-TEST_F(Lines, ADownloadInsideAnotherAddsTooAndLeavesTheButtonsWorking)
-{
+    const auto nothing = [] {};
+    const auto die = [] { SetHealth(-50); };
+    // clang-format off
     struct {
         void (*dial)();
         void (*outer)();
         void (*inner)();
-    } const cases[]{{DialBoard, ReceiveFromBoard, ReceiveFromBoard},
-                    {DialInternet, DownloadSoftware, DownloadAntivirus}};
-    for (const auto& row : cases) {
+        int size;
+        const char* shown;
+    } const rows[]{
+        {nothing, DialInternet, DialBoard, 0, "Connected/Connected 1 5 6"},
+        {DialBoard, ReceiveFromBoard, ReceiveFromBoard, 7, "Disconnected/Connected 1 5 6"},
+        {DialInternet, DownloadSoftware, DownloadAntivirus, 7, "Connected/Disconnected 1 5 6"},
+        {DialInternet, DownloadAntivirus, DownloadSoftware, 7, "Connected/Disconnected 1 5 6"},
+        // A finished download says so; the window that opens next, the truth.
+        {DialInternet, DownloadAntivirus, DialInternet, 3, "Connected/Disconnected 1 5 6"},
+        {nothing, DialInternet, die, 0, "Disconnected/Disconnected 1 5 6"},
+        {nothing, DialBoard, die, 0, "Disconnected/Disconnected 1 5 6"},
+        {DialInternet, DialInternet, die, 0, "Connected/Disconnected 1 5 6"},
+        {DialInternet, DownloadSoftware, die, 0, "Connected/Disconnected 1 5 6"},
+        {DialBoard, ReceiveFromBoard, die, 0, "Disconnected/Connected 1 5 6"},
+    };
+    // clang-format on
+    for (const auto& row : rows) {
         Begin();
-        ResetNetwork();
-        row.dial();
-        const std::string before = Shown();
+        Fresh(row.dial);
+        NextLifeIs("Пётр");
         dice.values = {DrawOf(3, 10), DrawOf(4, 10)};
-        InTheNextPause(row.inner);
-        row.outer();
-        EXPECT_EQ(GameState.SoftSize, 7);
-        EXPECT_EQ(Shown(), before);
-        EXPECT_EQ(Network().inetWaits + Network().bbsWaits, 0);
+        Meanwhile([&] {
+            const std::string running = Shown();
+            GoOnline(); // keeps the status of what runs
+            EXPECT_EQ(Shown(), running);
+            NetworkHourTick();
+            EnterRules(row.inner);
+        });
+        EnterRules(row.outer);
+        EXPECT_EQ(Shown(), row.shown);
+        EXPECT_EQ(GameState.SoftSize, row.size);
+        EXPECT_EQ(GameState.Money, row.inner == DialInternet ? 14 : 15);
+        EXPECT_EQ(GameState.PlayerName, row.inner == +die ? "Пётр" : "Иван");
+        GoOnline();
+        EXPECT_EQ(Network().inetStatus.ends_with(" Connected"), Network().InetConnected == True);
     }
-}
-
-TEST_F(Lines, TheSoftwareSiteGivesOnceUntilTheAntivirusSiteGives)
-{
-    DialInternet();
-    dice.values = {DrawOf(7, 10), DrawOf(2, 10)};
-    WatchPauses(2);
-    DownloadSoftware();
-    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5");
-    DownloadAntivirus();
-    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
-    EXPECT_EQ(pauses, (Texts{"6.5 Downloading 7 Mb.../Disconnected 1 5",
-                             "8 Downloading 2 Mb.../Disconnected 1 5"}));
-    EXPECT_EQ(GameState.SoftSize, 9);
-    EXPECT_EQ(GameState.SoftAntivirus, 0);
-}
-
-TEST_F(Lines, HangingUpInsideADownloadIsToldByTheWindowThatOpensNext)
-{
-    DialInternet();
-    dice.values = {DrawOf(7, 10)};
-    InTheNextPause(DialInternet);
-    DownloadAntivirus();
-    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6") << "a finished download says so";
-    EXPECT_EQ(GameState.SoftSize, 7);
-    GameState.HardComm = GameState.SoftBrowser = 1;
-    GoOnline();
-    EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
 }
 
 TEST_F(Lines, WhatIsBeyondItsWidthIsSwallowedAndTheButtonWorksAgain)
@@ -203,50 +144,19 @@ TEST_F(Lines, WhatIsBeyondItsWidthIsSwallowedAndTheButtonWorksAgain)
         NetworkHourTick();
     }
     EXPECT_EQ(Network().TrafficHours, 32767);
-    SetSoftSize(32767);
+    Assign("SoftSize=32767 Money=-2147483647");
     dice.values = {DrawOf(1, 10)};
-    DownloadSoftware();
-    EXPECT_EQ(GameState.SoftSize, 32767);
-    EXPECT_EQ(Told(), Texts{});
-    EXPECT_EQ(Shown(), "Connected/Disconnected 1 5 6");
+    EXPECT_EQ(Outcome(DownloadSoftware) + Outcome(DialInternet), "");
+    EXPECT_EQ(Shown(), "Disconnected/Disconnected 1 5 6");
 }
 
-TEST_F(Lines, ADeathInAPauseAbandonsTheSequenceAndTheNextLifeFindsTheTruth)
+TEST_F(Lines, AtMostSixteenTransfersGoOnAtOnce)
 {
-    struct Case {
-        void (*prepare)();
-        void (*sequence)();
-        const char* shown;
-    };
-    const Case cases[]{
-        {[] {}, DialInternet, "Disconnected/Disconnected 1 5 6"},
-        {[] {}, DialBoard, "Disconnected/Disconnected 1 5 6"},
-        {DialInternet, DialInternet, "Connected/Disconnected 1 5 6"},
-        {DialInternet, DownloadSoftware, "Connected/Disconnected 1 5 6"},
-        {DialBoard, ReceiveFromBoard, "Disconnected/Connected 1 5 6"},
-    };
-    dice.otherwise = DrawOf(5, 10);
-    for (const Case& one : cases) {
-        ResetNetwork();
-        one.prepare();
-        NetworkHourTick();
-        NextLifeIs("Пётр");
-        InTheNextPause([] { SetHealth(-50); });
-        EnterRules(one.sequence);
-        EXPECT_EQ(Shown(), one.shown);
-        EXPECT_EQ(Network().inetWaits + Network().bbsWaits, 0);
-        EXPECT_EQ(GameState.Money, 15);
-        EXPECT_EQ(GameState.SoftSize, 0);
-    }
+    player.duringWait.resize(20, [] { EnterRules(ReceiveFromBoard); });
+    dice.otherwise = 0.5F;
+    int most = 0;
+    player.atEachWait = [&] { most = std::max(most, Network().bbsWaits); };
+    EnterRules(ReceiveFromBoard);
+    EXPECT_EQ(most, 16);
+    EXPECT_EQ(Network().bbsWaits, 0);
 }
-
-TEST_F(Lines, TheProgramsEndInAPauseIsTheEndOfTheSequence)
-{
-    InTheNextPause([] { EndProgram(); });
-    EnterRules(DialInternet);
-    EXPECT_EQ(Network().InetConnected, False);
-    EXPECT_EQ(player.journal.back(), "end program");
-}
-
-} // namespace
-} // namespace torvenhall::test

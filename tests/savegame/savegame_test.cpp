@@ -1,331 +1,187 @@
 #include "savegame/savegame.h"
 
-#include <filesystem>
-
-#include "activities/work.h"
-#include "core/basGame.h"
-#include "core/life.h"
-#include "core/waits.h"
+#include "core/title.h"
 #include "equipment/basEquipment.h"
-#include "events/family.h"
 #include "events/message.h"
-#include "game/entry.h"
 #include "savegame/format.h"
-#include "savegame/known_life.h"
 #include "support/life.h"
-#include "system/basSystem.h"
 #include "system/codepage.h"
 
-namespace torvenhall::test
-{
-namespace
-{
+using namespace torvenhall;
 
 class SavedGames : public BegunLife
 {
 protected:
-    SavedGames() { MakeDirectory(Folder() + "SAVE"); }
+    SavedGames() { MakeDirectory(folder + "SAVE"); }
 
-    std::string PathOf(const std::string& file) const { return Folder() + "SAVE/" + file; }
+    std::string PathOf(const std::string& file) const { return folder + "SAVE/" + file; }
 
-    void Save(const std::string& name)
+    void Save(const std::optional<std::string>& name)
     {
-        player.games.emplace_back(name);
+        player.games = {name, std::nullopt};
         EnterRules(SaveGame);
     }
-
-    /// Loads the game and sees that its file is as it was.
-    void Load(const std::string& name)
+    void Load(const std::optional<std::string>& name)
     {
-        const std::string before = ReadWholeFile(PathOf(name + ".QVS"));
-        player.games.emplace_back(name);
+        player.games = {name};
         EnterRules(LoadGame);
-        EXPECT_EQ(ReadWholeFile(PathOf(name + ".QVS")), before);
     }
-
-    /// Puts a file with these lines there, and loads it.
-    void LoadLines(const SavedGame& lines)
+    /// Loads a game of these lines and sees that its file is as it was.
+    void Load(const SavedGame& lines)
     {
         std::string text = lines.front();
         for (std::size_t i = 1; i < lines.size(); ++i) {
             text += "\r\n" + lines[i];
         }
-        ReplaceFile(PathOf("lines.QVS"), ShiftCharsDown(ToWindows1251(text)));
+        const std::string bytes = ShiftCharsDown(ToWindows1251(text));
+        ReplaceFile(PathOf("lines.QVS"), bytes);
         Load("lines");
+        EXPECT_EQ(ReadWholeFile(PathOf("lines.QVS")), bytes);
     }
-
-    static SavedGame LinesOf(const GameStateRecord& life) { return DecodeGame(EncodeGame(life)); }
-
-    /// A rich life made as the game makes it, so that its labels show it.
-    void LiveWell()
-    {
-        int category = 0;
-        for (const int part : {10, 7, 7, 7, 6, 6, 6, 6, 4}) {
-            InstallHardware(category++, part, false);
-        }
-        category = 0;
-        for (const int item : {8, 4, 5, 4, 5, 6}) {
-            InstallSoftware(category++, item);
-        }
-        SetWork(12);
-        Set(-30, -31, 120, -7);
-        SetEducation(7);
-        SetIntelligence(110);
-        SetGameSpeed(60);
-        SetSoftSize(44);
-        GameState.Married = GameState.WifeFound = GameState.AttendSchool = True;
-        GameState.Daughters = 2;
-        GameState.Alimony = 50;
-        ShowFamily();
-        ShowLabel(lblMessage, "");
-    }
+    const std::string known = ReadWholeFile(TORVENHALL_TEST_DATA "known-life.QVS");
+    static std::string Now() { return EncodeGame(GameState); }
 };
 
-TEST_F(SavedGames, ALifeThatIsLoadedEqualsTheSavedOneInEveryFieldAndLabel)
+TEST_F(SavedGames, TheKeptGameLoadsThroughItsSettersInOrderAndEveryLineHasItsFieldAndItsKind)
 {
-    LiveWell();
-    Tick(3);
-    const std::string saved = EncodeGame(GameState);
-    const Int16 target = GameState.WinMoney;
-    const auto labels = player.labels;
-    const auto colours = player.colours;
-    Save("игра");
-    Begin(2, "Пётр");
-    Load("игра");
-    EXPECT_EQ(EncodeGame(GameState), saved);
-    EXPECT_EQ(GameState.WinMoney, target);
-    EXPECT_EQ(player.labels, labels);
-    EXPECT_EQ(player.colours, colours);
-    EXPECT_EQ(player.title, "Marshend Torvenhall 1.5 - Иван");
-    EXPECT_TRUE(player.boxes.empty());
+    ReplaceFile(PathOf("kept.Qvs"), known);
+    Load("kept");
+    lines = InRows(Happened());
+    EXPECT_EQ(Now(), known);
+    Given("CurrWork=99 HardPrinter=4 AttendSchool=-1 Married=-1"); // 99 keeps pay and title
+    const Game life = GameState;
+    const SavedGame good = DecodeGame(Now());
+    const Texts texts{"0", "8", "40000", "3000000000", "6:30", "1.2.2003", "семь", ""};
+    lines.push_back("line | " + Joined(texts, " | ") + " | nothing");
+    for (std::size_t line = 2; line <= SavedLines; ++line) {
+        Texts outcomes{std::to_string(line)};
+        for (const std::string& text : texts) {
+            GameState = life;
+            player.boxes.clear();
+            SavedGame changed = good;
+            changed[line - 1] = text;
+            Load(changed);
+            const std::string fields = ChangedFields(life);
+            outcomes.push_back(fields.empty() ? std::to_string(ErrorTold()) : fields);
+        }
+        lines.push_back(Joined(outcomes, " | "));
+    }
+    ExpectKept("saved.txt", lines);
 }
 
-TEST_F(SavedGames, TheFirstGameIsSavedAsTheSecondAndShownSo)
+TEST_F(SavedGames, ALineThatFailsOrIsMissingEndsTheLoadThere)
 {
-    LiveWell();
-    InstallSoftware(5, 1);
-    EXPECT_EQ(LabelShown(lblGames), "DOOM-II");
-    Save("a");
-    Load("a");
-    EXPECT_EQ(GameState.SoftGames, 2);
-    EXPECT_EQ(LabelShown(lblGames), "Duke 3 for MSDOS");
+    for (const std::size_t line : {2U, 4U, 12U, 25U, 38U}) {
+        for (const bool isMissing : {false, true}) {
+            Begin();
+            SavedGame damaged = DecodeGame(known), expected = DecodeGame(Now());
+            std::copy_n(damaged.begin(), line - 1, expected.begin());
+            damaged[line - 1] = "?";
+            damaged.resize(isMissing ? line - 1 : SavedLines);
+            Load(damaged);
+            EXPECT_EQ(ErrorTold(), error::TypeMismatch);
+            EXPECT_EQ(DecodeGame(Now()), expected) << line;
+            EXPECT_TRUE(line < 5 || LabelShown(lblTime) == "29 февраля 2004 г. - 23:45");
+        }
+    }
 }
 
 TEST_F(SavedGames, TheDialogsAskInTheGamesWordsAndAnEmptyNameIsACancel)
 {
-    Save("");
-    Save("a");
-    Load("a");
-    for (const std::optional<std::string>& answer : {std::optional<std::string>(), {""}}) {
-        player.games = {answer, answer};
-        EnterRules(SaveGame);
-        EnterRules(LoadGame);
-    }
-    EXPECT_EQ(ListSavedGames(), Texts{"a"});
-    EXPECT_EQ(Told(), Texts{});
-    const GameNameQuestion& saving = player.gameQuestions.at(1);
-    EXPECT_EQ((Texts{saving.caption, saving.heading, saving.confirm, saving.name}),
-              (Texts{"Сохранение игры", "Доступные игры:", "Сохранить", ""}));
-    const GameNameQuestion& loading = player.gameQuestions.at(2);
-    EXPECT_EQ((Texts{loading.caption, loading.heading, loading.confirm, loading.name}),
-              (Texts{"Загрузка игры", "Доступные игры:", "Загрузить", ""}));
-    EXPECT_TRUE(saving.saving);
-    EXPECT_FALSE(loading.saving);
-    EXPECT_EQ(loading.games, Texts{"a"});
-}
-
-TEST_F(SavedGames, TheListIsSortedKnowsTheExtensionInAnyCaseAndWhatIsListedLoads)
-{
-    for (const char* name : {"Бета", "альфа", "a b", "game.qvs"}) {
+    for (const char* name : {"", "a", "Бета", "альфа", "a b", "game.qvs"}) {
         Save(name);
     }
-    for (const char* file : {"a.qvs", "a.QVS", ".qvs", "d.qvsx", "e"}) {
+    for (const char* file : {"a.qvs", "c.Qvs", ".qvs", "d.qvsx", "e"}) {
         ReplaceFile(PathOf(file), "");
     }
-    ReplaceFile(PathOf("c.Qvs"), EncodeGame(KnownLife()));
     MakeDirectory(PathOf("folder.qvs"));
-    EXPECT_EQ(ListSavedGames(), (Texts{"a", "a b", "c", "game.qvs", "альфа", "Бета"}));
+    player.journal.erase(player.journal.begin() + 2, player.journal.end());
+    for (const std::optional<std::string>& name : {std::optional<std::string>(), {""}, {"b"}}) {
+        Load(name);
+    }
+    lines = Happened();
     EXPECT_TRUE(FileExists(PathOf("game.qvs.QVS")));
-    player.games.emplace_back("c");
-    EnterRules(LoadGame);
-    EXPECT_EQ(GameState.PlayerName, "Ёжик Петров");
-}
-
-TEST_F(SavedGames, ARefusedNameOrAFailedWriteIsReportedAndTheDialogComesBackWithTheName)
-{
-    MakeDirectory(PathOf("folder.QVS"));
-    const std::pair<std::string, int> names[]{
-        {"../a", 52}, {"a/b", 52}, {std::string(300, 'a'), 52}, {"folder", 75}};
-    for (const auto& [name, number] : names) {
-        player.Forget();
-        player.games = {name, number == 52 ? std::optional<std::string>("good") : std::nullopt};
-        EnterRules(SaveGame);
+    const std::pair<std::string, int> refused[]{
+        {"../a", 52}, {"a/b", 52}, {std::string(300, 'n'), 52}, {"folder", 75}};
+    std::filesystem::rename(PathOf("folder.qvs"), PathOf("folder.QVS"));
+    for (const auto& [name, number] : refused) {
+        Save(name);
         EXPECT_EQ(ErrorTold(), number) << name;
-        ASSERT_EQ(player.gameQuestions.size(), 2U);
-        EXPECT_EQ(player.gameQuestions[1].name, name);
+        EXPECT_NE(player.journal.back().find(" | " + name + "_"), std::string::npos);
     }
-    EXPECT_EQ(ListSavedGames(), Texts{"good"});
-    EXPECT_FALSE(std::filesystem::exists(Folder() + "a.QVS"));
+    EXPECT_FALSE(std::filesystem::exists(folder + "a.QVS"));
+    ExpectKept("dialogs.txt", lines);
 }
 
-TEST_F(SavedGames, TheFolderIsMadeWhenNeededAndGivenNoPlaceForItSavingAsksNothing)
+TEST_F(SavedGames, TheFolderIsMadeWhenItIsNeededAndWithoutAPlaceForItNothingIsAsked)
 {
-    const auto remove = [this] { std::filesystem::remove(Folder() + "SAVE"); };
-    remove();
-    EXPECT_EQ(ListSavedGames(), Texts{});
-    player.whileDialogOpen.emplace_back(remove);
+    const auto remove = [this] { std::filesystem::remove_all(folder + "SAVE"); };
+    Meanwhile(remove);
     Save("kept");
-    EXPECT_EQ(ListSavedGames(), Texts{"kept"}) << "it vanished while the dialog was open";
-
-    std::filesystem::remove_all(Folder() + "SAVE");
-    ReplaceFile(Folder() + "SAVE", "a file in its place");
-    player.Forget();
+    EXPECT_EQ(ListSavedGames(), Texts{"kept"});
+    remove();
+    ReplaceFile(folder + "SAVE", "a file in its place");
+    player.journal.clear();
     EnterRules(SaveGame);
-    EXPECT_EQ(player.boxes.size(), 1U);
-    EXPECT_TRUE(player.gameQuestions.empty());
+    EXPECT_EQ(Happened().size(), 1U) << "told, and no name asked for";
 }
 
-TEST_F(SavedGames, ADeathOrTheProgramsEndWhileTheSaveDialogIsOpenSavesNothing)
+TEST_F(SavedGames, ARefusedGameLeavesTheLifeAndWhatRunsInItAlone)
 {
-    NextLifeIs("Пётр");
-    void (*const ends[])(){[] { SetHealth(-50); }, [] { EndProgram(); }};
-    for (void (*const end)() : ends) {
-        player.whileDialogOpen.emplace_back([end] { EnterRules(end); });
-        player.whileDialogOpen.emplace_back(); // the name dialog
-        Save("a");
-        EXPECT_TRUE(ListSavedGames().empty());
-        EXPECT_EQ(GameState.PlayerName, "Пётр");
-    }
-}
-
-TEST_F(SavedGames, AGameThatVanishedIsTold)
-{
-    player.games.emplace_back("a");
-    EnterRules(LoadGame);
-    EXPECT_EQ(Told(), Texts{"x Ошибка: Файл игры a.QVS не найден!"});
-}
-
-TEST_F(SavedGames, AnotherReleasesGameIsRefusedWholeAndTooManyLinesAreAnErrorBeforeThat)
-{
-    const std::string before = EncodeGame(GameState);
-    for (const char* title : {"", "marshend torvenhall 1.5", "Marshend Torvenhall 1.5 "}) {
-        SavedGame lines = LinesOf(KnownLife());
-        lines.front() = title;
-        LoadLines(lines);
-        EXPECT_EQ(Told(), Texts{"x Загрузка игры: Некорректная версия"}) << title;
-        EXPECT_EQ(EncodeGame(GameState), before);
-    }
-    for (const std::string& title : {std::string(ApplicationTitle), std::string("other")}) {
-        SavedGame lines(39, "1");
-        lines.front() = title;
-        LoadLines(lines);
-        EXPECT_EQ(ErrorTold(), 9);
-        EXPECT_EQ(EncodeGame(GameState), before);
-    }
-}
-
-TEST_F(SavedGames, EachDamagedLineStopsTheLoadThereAndIsReported)
-{
-    struct Damage {
-        std::string text;
-        int narrow, wide, calendar; ///< error in a 16-bit, a 32-bit, a date line
+    const std::string before = Now();
+    SavedGame other = DecodeGame(known);
+    const auto loadsDuringAMessage = [&] {
+        Meanwhile([&] { Load(other); });
+        EnterRules([] {
+            ShowMessage("Ёж");
+            SetMoney(1);
+        });
+        return Joined(Told()) + " " + LabelShown(lblMoney);
     };
-    const Damage damages[]{
-        {"", 13, 13, 13}, {"семь", 13, 13, 13}, {"40000", 6, 0, 13}, {"3000000000", 6, 6, 13}};
-    const SavedGame good = LinesOf(KnownLife());
-    for (std::size_t line = 2; line <= SavedLines; ++line) {
-        for (const Damage& damage : damages) {
-            const bool isText = line == 6 || line == 9;
-            const bool isBoolean = line == 27 || line == 28; // any number is read
-            const int number = isText                   ? 0
-                               : line == 2 || isBoolean ? damage.wide
-                               : line == 4 || line == 5 ? damage.calendar
-                                                        : damage.narrow;
-            if (number == 0) {
-                continue;
-            }
-            SCOPED_TRACE(std::to_string(line) + " " + damage.text);
-            Begin();
-            const SavedGame before = LinesOf(GameState);
-            SavedGame damaged = good;
-            damaged[line - 1] = damage.text;
-            LoadLines(damaged);
-            const SavedGame after = LinesOf(GameState);
-            for (std::size_t i = 1; i <= SavedLines; ++i) {
-                EXPECT_EQ(after[i - 1], i < line ? good[i - 1] : before[i - 1]) << "line " << i;
-            }
-            EXPECT_EQ(ErrorTold(), number);
-        }
+    for (const char* title : {"", "marshend torvenhall 1.5", "Marshend Torvenhall 1.5 "}) {
+        other.front() = title;
+        EXPECT_EQ(loadsDuringAMessage(), "x Загрузка игры: Некорректная версия $1");
     }
-}
-
-TEST_F(SavedGames, GivenAFileCutShortItsLinesAreAppliedAndTheRestKeepsItsValues)
-{
-    LoadLines({"Marshend Torvenhall 1.5", "100", "-5", "12:30", "03.02.2001"});
-    EXPECT_EQ(GameState.Money, 100);
-    EXPECT_EQ(GameState.Happy, -5);
-    EXPECT_EQ(GameState.PlayerName, "Иван");
-    EXPECT_EQ(GameState.Health, 40);
-    EXPECT_EQ(LabelShown(lblTime), "3 февраля 2001 г. - 12:30");
-    EXPECT_EQ(player.boxes.size(), 1U);
-}
-
-TEST_F(SavedGames, AProgramWhoseHardwareIsGoneIsToldAndKept)
-{
-    for (int category = 0; category < 4; ++category) {
-        InstallHardware(category, 2, false);
+    SetMoney(15);
+    other.resize(SavedLines + 1);
+    for (const std::string_view title : {ApplicationTitle, std::string_view("other")}) {
+        other.front() = title;
+        Load(other);
+        EXPECT_EQ(ErrorTold(), error::Subscript) << "too many lines, before anything else";
     }
-    InstallSoftware(0, 3);
-    InstallSoftware(1, 2);
-    InstallHardware(0, 0, false);
-    Save("a");
-    Begin();
-    Load("a");
-    EXPECT_EQ(Told(),
-              Texts{"i Ну у Вас и запросы...: Слабая машинка!!!! Нужен Pentium 133, 1.3 Gb IDE, "
-                    "16 Mb RAM, S3 Trio 64V+"});
-    EXPECT_EQ(GameState.SoftOS, 3);
-    EXPECT_EQ(LabelShown(lblOs), "Microsoft Windows 98");
-    EXPECT_EQ(LabelShown(lblAntiv), "Antivirial Toolkit Pro");
-    EXPECT_EQ(LabelShown(lblhard0), "Нет вооще");
-}
-
-TEST_F(SavedGames, AFatalMoodInAFileIsOneDeathAndThenACleanLife)
-{
-    SavedGame lines = LinesOf(KnownLife());
-    lines[2] = "-80";
-    NextLifeIs("Пётр");
-    LoadLines(lines);
-    EXPECT_EQ(player.boxes.size(), 1U);
-    EXPECT_EQ(GameState.PlayerName, "Пётр");
-    EXPECT_EQ(GameState.Money, 15);
-    EXPECT_EQ(GameState.GameDate, FirstDay);
-    EXPECT_EQ(player.title, "Marshend Torvenhall 1.5 - Пётр");
-}
-
-TEST_F(SavedGames, NoTickRunsWhileALoadShowsABox)
-{
-    SavedGame lines = LinesOf(KnownLife());
-    lines[30] = "-1"; // no difficulty: the game asks to look again
-    player.whileBoxOpen.emplace_back([this] { Tick(10); });
-    LoadLines(lines);
-    EXPECT_EQ(player.boxes.size(), 1U);
-    EXPECT_EQ(GameState.GameLevel, 1);
-    EXPECT_EQ(LabelShown(lblTime), "29 февраля 2004 г. - 23:45");
-}
-
-TEST_F(SavedGames, AMessageOfTheLifeBeforeIsNotTypedOn)
-{
-    ReplaceFile(PathOf("known.QVS"), EncodeGame(KnownLife()));
-    player.duringWait.emplace_back([] {});
-    player.duringWait.emplace_back([this] { Load("known"); });
-    EnterRules([] {
-        ShowMessage("Сообщение");
-        SetMoney(1);
-    });
-    EXPECT_EQ(GameState.Money, -1234567);
+    EXPECT_EQ(Now(), before);
+    other = DecodeGame(known);
+    EXPECT_EQ(loadsDuringAMessage(), " $-1234567") << "a good game ends the life before";
     EXPECT_EQ(LabelShown(lblMessage), "");
 }
 
-} // namespace
-} // namespace torvenhall::test
+TEST_F(SavedGames, AProgramThatLostItsHardwareIsToldAndKeptAndTheClockWaits)
+{
+    SavedGame lines = DecodeGame(known);
+    lines[9] = "0";
+    Meanwhile([] { Tick(10); });
+    Load(lines);
+    EXPECT_EQ(Joined(Told()), "i Ну у Вас и запросы...: Слабая машинка!!!! Нужен Pentium 133, 1.3 "
+                              "Gb IDE, 16 Mb RAM, S3 Trio 64V+");
+    EXPECT_EQ(GameState.SoftOS, 3);
+    EXPECT_EQ(LabelShown(lblOs), "Microsoft Windows 98");
+    EXPECT_EQ(LabelShown(lblTime), "29 февраля 2004 г. - 23:45");
+    lines[2] = "-80";
+    NextLifeIs("Пётр");
+    Load(lines);
+    EXPECT_EQ(Told().size(), 1U) << "one death";
+    ExpectFreshLife("Пётр");
+}
+
+TEST_F(SavedGames, OnlyTrueAndFalseAreWrittenALineBreakShiftsNoLineAndTheFirstGameIsTheSecond)
+{
+    Given("SoftOS=1 AttendCourses=5 AttendSchool=5 Married=5 WifeFound=5");
+    InstallSoftware(5, 1);
+    GameState.PlayerName = "a\r\nb";
+    const SavedGame saved = DecodeGame(Now());
+    EXPECT_EQ(Joined({saved[5], saved[23], saved[26], saved[27], saved[33], saved[34]}),
+              "a b, 2, -1, -1, -1, -1");
+    Load(saved);
+    EXPECT_EQ(LabelShown(lblGames), "Duke 3 for MSDOS");
+    EXPECT_EQ(DecodeGame(""), SavedGame{""});
+}

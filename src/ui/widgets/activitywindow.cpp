@@ -17,14 +17,13 @@ constexpr double PanelPadding = 10;
 constexpr double CaptionHeight = 20;
 } // namespace
 
-ActivityWindow::ActivityWindow(const Plan& plan, LabelBoard& newBoard, QWidget* parent)
-    : GameWindow(plan.name, plan.width, plan.height, parent), board(newBoard),
-      pictureKey(plan.pictureKey), width(plan.width), height(plan.height)
+ActivityWindow::ActivityWindow(const Plan& plan, QWidget* parent)
+    : GameWindow(plan.name, plan.width, plan.height, parent), pictureKey(plan.pictureKey),
+      width(plan.width), height(plan.height)
 {
     setWindowTitle(plan.caption);
     setWindowModality(Qt::WindowModal);
     AddStrip();
-    connect(&board, &LabelBoard::Shown, this, &ActivityWindow::ShowStripItem);
 }
 
 void ActivityWindow::Load()
@@ -65,22 +64,6 @@ void ActivityWindow::AddChoices(const Group& group,
     }
 }
 
-void ActivityWindow::Choose(const std::function<void()>& call)
-{
-    Act(call);
-    if (isVisible()) {
-        RefreshChoices();
-    }
-}
-
-void ActivityWindow::ChooseAndReload(const std::function<void()>& call)
-{
-    Act(call);
-    if (isVisible()) {
-        Act([this] { Load(); });
-    }
-}
-
 void ActivityWindow::AddStrip()
 {
     const double stripWidth = width - 2 * Margin - BackWidth - 10;
@@ -105,18 +88,17 @@ void ActivityWindow::AddStripItem(int index, const QString& caption, Label label
         value->FlashChanges();
     }
     strip.emplace_back(label, value);
-    ShowStripItem(label);
+    value->ShowLabel(label);
 }
 
-void ActivityWindow::ShowStripItem(Label label)
+void ActivityWindow::LabelChanged(Label label)
 {
     for (const auto& [shown, value] : strip) {
         if (shown == label) {
-            value->ShowText(board.ShownText(label));
-            value->SetColour(board.Colour(label));
+            value->ShowLabel(label);
         }
     }
-    if (label == Label::lblMoney && isVisible()) {
+    if (label == Label::lblMoney) {
         RefreshChoices();
     }
 }

@@ -1,11 +1,8 @@
 #pragma once
 
-#include <QPointer>
-
 #include <string_view>
 #include <vector>
 
-#include "ui/widgets/board.h"
 #include "ui/widgets/gamewindow.h"
 
 namespace torvenhall
@@ -15,8 +12,6 @@ namespace torvenhall
 /// "Назад" at the bottom right, and beside it what the player has, live.
 class ActivityWindow : public GameWindow
 {
-    Q_OBJECT
-
 public:
     struct Plan {
         const char* name;
@@ -25,10 +20,11 @@ public:
         double width = 560;
         double height = 420;
     };
-    ActivityWindow(const Plan& plan, LabelBoard& newBoard, QWidget* parent);
+    ActivityWindow(const Plan& plan, QWidget* parent);
 
     /// Loads the picture, as the last step of the derived window's loading.
     void Load() override;
+    void LabelChanged(Label label) override;
 
 protected:
     /// How the choices stand: in columns, from the bottom up to what they
@@ -43,19 +39,13 @@ protected:
     void AddChoices(const Group& group,
                     const std::vector<std::pair<QString, QString>>& namedCaptions);
     GameButton& Choice(std::size_t index) { return *choices[index]; }
-    /// Called when what the player has changes: which choices are out of reach.
+    /// Called when the player's money changes: which choices are out of reach.
     virtual void RefreshChoices() {}
-    /// One call of the rules by a choice, then its look.
-    void Choose(const std::function<void()>& call);
-    /// The same, and the load routine runs again.
-    void ChooseAndReload(const std::function<void()>& call);
 
 private:
     void AddStrip();
     void AddStripItem(int index, const QString& caption, Label label);
-    void ShowStripItem(Label label);
 
-    LabelBoard& board;
     std::string_view pictureKey;
     double width, height;
     std::vector<GameButton*> choices;

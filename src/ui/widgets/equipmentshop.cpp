@@ -6,9 +6,8 @@
 namespace torvenhall
 {
 
-EquipmentShop::EquipmentShop(const Plan& plan, const Goods& newGoods, LabelBoard& board,
-                             QWidget* parent)
-    : ActivityWindow(plan, board, parent), goods(newGoods),
+EquipmentShop::EquipmentShop(const Plan& plan, const Goods& newGoods, QWidget* parent)
+    : ActivityWindow(plan, parent), goods(newGoods),
       prices(static_cast<std::size_t>(newGoods.categories))
 {
     std::vector<std::pair<QString, QString>> captions;
@@ -18,7 +17,7 @@ EquipmentShop::EquipmentShop(const Plan& plan, const Goods& newGoods, LabelBoard
     AddChoices({{}, {}, goods.width, 1}, captions);
     for (int category = 0; category < goods.categories; ++category) {
         connect(&Choice(static_cast<std::size_t>(category)), &QAbstractButton::clicked, this,
-                [this, category] { ChooseAndReload([this, category] { goods.buy(category); }); });
+                [this, category] { Act([buy = goods.buy, category] { buy(category); }); });
     }
     AddBack("Command8");
 }

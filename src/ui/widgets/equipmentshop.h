@@ -10,8 +10,6 @@ namespace torvenhall
 /// item of its list.
 class EquipmentShop : public ActivityWindow
 {
-    Q_OBJECT
-
 public:
     struct Goods {
         const char* buttonName; ///< with the category's number behind it
@@ -20,7 +18,7 @@ public:
         Offer (*offer)(Int16 category);
         void (*buy)(Int16 category);
     };
-    EquipmentShop(const Plan& plan, const Goods& newGoods, LabelBoard& board, QWidget* parent);
+    EquipmentShop(const Plan& plan, const Goods& newGoods, QWidget* parent);
 
     void Load() override;
 

@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QTextLayout>
 
 namespace torvenhall
 {
@@ -37,6 +38,24 @@ void DrawFitted(QPainter& painter, const QRectF& rect, Qt::Alignment alignment, 
     painter.drawText(stretched, static_cast<int>(alignment) | Qt::TextSingleLine | Qt::TextDontClip,
                      fitted.text);
     painter.restore();
+}
+
+double BreakLines(QTextLayout& layout, double width)
+{
+    layout.setText(layout.text().replace('\n', QChar::LineSeparator));
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.setCacheEnabled(true);
+    double height = 0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0, height});
+        height += line.height();
+    }
+    layout.endLayout();
+    return height;
 }
 
 } // namespace torvenhall

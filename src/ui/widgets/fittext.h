@@ -5,6 +5,7 @@
 #include <QString>
 
 class QPainter;
+class QTextLayout;
 
 namespace torvenhall
 {
@@ -22,5 +23,8 @@ FittedText FitText(const QString& text, const QFont& font, double width);
 /// font and pen.
 void DrawFitted(QPainter& painter, const QRectF& rect, Qt::Alignment alignment,
                 const QString& text);
+
+/// Breaks the layout's text into lines of a width; their common height.
+double BreakLines(QTextLayout& layout, double width);
 
 } // namespace torvenhall

@@ -101,8 +101,8 @@ void GameWindow::reject()
 void GameWindow::closeEvent(QCloseEvent* event)
 {
     // The default would hide the window behind the back of `reject`.
-    event->ignore();
     reject();
+    event->setAccepted(!isVisible());
 }
 
 void GameWindow::showEvent(QShowEvent* event)

@@ -5,8 +5,9 @@
 
 #include <functional>
 
-#include "ui/widgets/button.h"
-#include "ui/widgets/label.h"
+#include "core/labels.h"
+#include "ui/widgets/gamebutton.h"
+#include "ui/widgets/gamelabel.h"
 #include "ui/widgets/scene.h"
 
 namespace torvenhall
@@ -16,21 +17,26 @@ namespace torvenhall
 /// in units.
 class GameWindow : public QDialog
 {
-    Q_OBJECT
-
 public:
     /// Size in units. The window's control name is also its class's.
     GameWindow(const QString& name, double width, double height, QWidget* parent);
 
     /// The window's load routine: what it shows is derived from the game anew.
     virtual void Load() {}
+    /// What a main-window label shows has changed (core/shown.h).
+    virtual void LabelChanged(Label /*label*/) {}
+    /// Enables or disables a control. The focus of a disabled one waits on
+    /// "Назад": the toolkit would hand it to the next button, and one stroke
+    /// too many would press that.
+    void SetUsable(QWidget& control, bool usable);
 
 protected:
     /// Whether the window takes Esc and its close box; what they mean is
     /// `reject`.
     virtual bool Closable() const { return true; }
-    /// Enters the rules with one call of theirs.
-    void Act(const std::function<void()>& call);
+    /// Enters the rules with one call of theirs. The call may wait and outlive
+    /// the window, so it must not hold on to it.
+    static void Act(const std::function<void()>& call);
 
     Scene& Surface() { return *scene; }
     GameLabel* AddLabel(const QString& name, const QString& text, const QRectF& place,
@@ -42,11 +48,6 @@ protected:
                    const QRectF& place, double height = 22);
     /// "Назад" in its usual corner: bottom right.
     GameButton* AddBack(const QString& name, const QString& caption = "Назад");
-
-    /// Enables or disables a control. The focus of a disabled one waits on
-    /// "Назад": the toolkit would hand it to the next button, and one stroke
-    /// too many would press that.
-    void SetUsable(QWidget& control, bool usable);
 
     /// Tab goes through these in order.
     static void TabThrough(std::initializer_list<QWidget*> order);

@@ -12,23 +12,23 @@ class Gauge : public QWidget
 {
 public:
     enum class Kind : unsigned char { Share, Steps, AroundZero };
-    Gauge(Kind kind, QWidget* parent);
-
-    /// The value and the amount that fills the bar. Steps: how many of all.
-    void Show(double newValue, double newFull, bool danger = false);
+    struct Reading {
+        double share = 0; ///< of the whole bar
+        int steps = 0;    ///< that the bar has, for Steps
+        bool danger = false;
+    };
+    /// The reading is asked for whenever the gauge is painted.
+    Gauge(Kind kind, Reading (*reading)(), QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void PaintSteps(QPainter& painter) const;
-    void PaintBar(QPainter& painter, double from, double to) const;
-    QColor Ink() const;
+    void PaintSteps(QPainter& painter, const Reading& shown) const;
+    void PaintBar(QPainter& painter, const QColor& ink, double from, double to) const;
 
     Kind kind;
-    double value = 0;
-    double full = 100;
-    bool danger = false;
+    Reading (*reading)();
 };
 
 } // namespace torvenhall

@@ -1,10 +1,9 @@
 #include "ui/widgets/metrics.h"
 
-#include <QDir>
-#include <QFile>
 #include <QGuiApplication>
-#include <QRegularExpression>
 #include <QScreen>
+#include <QSettings>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <cmath>
@@ -21,18 +20,6 @@ constexpr double TwipsPerUnit = 15;
 
 double desktopPoints = UsualPoints;
 
-/// The first number that the pattern captures in a settings file, else 0.
-double NumberIn(const QString& path, const char* pattern)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return 0;
-    }
-    const QRegularExpression expression(QString::fromLatin1(pattern),
-                                        QRegularExpression::MultilineOption);
-    return expression.match(QString::fromUtf8(file.readAll())).captured(1).toDouble();
-}
-
 } // namespace
 
 void SetDesktopFontPoints(double points)
@@ -44,12 +31,17 @@ double DesktopFontPoints()
 {
     // The toolkit's own look at the desktop's settings loads the desktop's
     // whole toolkit at start-up, so the two files are read directly.
-    const QString config = qEnvironmentVariable("XDG_CONFIG_HOME", QDir::homePath() + "/.config");
-    const double kde = NumberIn(config + "/kdeglobals", "^font=[^,\\n]*,(\\d+)");
-    const double gtk =
-        NumberIn(config + "/gtk-3.0/settings.ini", "^gtk-font-name\\s*=.*?(\\d+)\\s*$");
+    const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    const QSettings kde(config + "/kdeglobals", QSettings::IniFormat);
+    const QSettings gtk(config + "/gtk-3.0/settings.ini", QSettings::IniFormat);
     const bool onKde = qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains("KDE");
-    const double points = onKde ? kde : gtk;
+    // "Noto Sans,10,-1,5,50" and "Cantarell 11"
+    const double points = onKde ? kde.value("font").toStringList().value(1).toDouble()
+                                : gtk.value("Settings/gtk-font-name")
+                                      .toStringList()
+                                      .join(' ')
+                                      .section(' ', -1)
+                                      .toDouble();
     return points > 0 ? points : UsualPoints;
 }
 

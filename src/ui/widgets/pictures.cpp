@@ -81,10 +81,9 @@ QByteArray EmbeddedPicture(std::string_view name)
 
 QPixmap LoadBackground(std::string_view key, QSize size, double pixelRatio)
 {
-    const std::span<const std::byte> bytes = LoadFormPicture(key);
-    const QByteArray jpeg = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
-                                                    static_cast<qsizetype>(bytes.size()));
-    return DecodeOnce(key, jpeg, size, pixelRatio);
+    const QByteArray jpeg = EmbeddedPicture(std::string(key) + "PICTURE");
+    const bool isThere = LoadFormPicture(key, std::as_bytes(std::span(jpeg)));
+    return isThere ? DecodeOnce(key, jpeg, size, pixelRatio) : QPixmap();
 }
 
 QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio)

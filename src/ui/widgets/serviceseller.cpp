@@ -5,10 +5,8 @@
 namespace torvenhall
 {
 
-ServiceSeller::ServiceSeller(const char* name, const ServiceWindow& newTable, LabelBoard& board,
-                             QWidget* parent)
-    : ActivityWindow({name, Text(newTable.caption), newTable.pictureKey}, board, parent),
-      table(newTable)
+ServiceSeller::ServiceSeller(const char* name, const ServiceWindow& newTable, QWidget* parent)
+    : ActivityWindow({name, Text(newTable.caption), newTable.pictureKey}, parent), table(newTable)
 {
     AddSlogan("Label3", "Label4", Text(table.slogan), {20, 14, 520, 34});
     std::vector<std::pair<QString, QString>> captions;
@@ -18,7 +16,7 @@ ServiceSeller::ServiceSeller(const char* name, const ServiceWindow& newTable, La
     AddChoices({Text(table.group), "Label1", 304, 1}, captions);
     for (std::size_t i = 0; i < table.services.size(); ++i) {
         connect(&Choice(i), &QAbstractButton::clicked, this,
-                [this, i] { Choose([this, i] { BuyService(table, i); }); });
+                [this, i] { Act([&sold = table, i] { BuyService(sold, i); }); });
     }
     AddBack("Command8");
 }

@@ -9,11 +9,8 @@ namespace torvenhall
 /// A window that sells relief, made of its table.
 class ServiceSeller : public ActivityWindow
 {
-    Q_OBJECT
-
 public:
-    ServiceSeller(const char* name, const ServiceWindow& newTable, LabelBoard& board,
-                  QWidget* parent);
+    ServiceSeller(const char* name, const ServiceWindow& newTable, QWidget* parent);
 
 protected:
     void RefreshChoices() override;

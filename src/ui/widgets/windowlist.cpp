@@ -1,32 +1,16 @@
 #include "ui/widgets/windowlist.h"
 
 #include <QApplication>
-#include <QThread>
+#include <QDialog>
 
 #include <algorithm>
-
-#include "core/life.h"
 
 namespace torvenhall
 {
 
-namespace
-{
-constexpr int DeletionPause = 200; // ms
-}
-
-WindowList::WindowList()
-{
-    deletion.setInterval(DeletionPause);
-    connect(&deletion, &QTimer::timeout, this, &WindowList::DeleteBuried);
-}
-
 WindowList::~WindowList()
 {
     for (const QPointer<QWidget>& window : open) {
-        delete window;
-    }
-    for (const QPointer<QWidget>& window : buried) {
         delete window;
     }
 }
@@ -40,27 +24,23 @@ void WindowList::Opened(QWidget* window)
     open.emplace_back(window);
 }
 
-int WindowList::Run(QDialog* dialog)
-{
-    Opened(dialog);
-    ++running;
-    const int result = dialog->exec();
-    --running;
-    Bury(dialog);
-    if (QWidget* beneath = Top()) {
-        beneath->activateWindow(); // some desktops leave no window active
-    }
-    return result;
-}
-
-void WindowList::Bury(QWidget* window)
+void WindowList::Closed(QWidget* window)
 {
     std::erase_if(open, [&](const QPointer<QWidget>& each) { return !each || each == window; });
-    const bool known = std::find(buried.begin(), buried.end(), window) != buried.end();
-    if (window && !known) {
-        buried.emplace_back(window);
-        window->hide();
-        deletion.start();
+    window->hide();
+    Delete(window);
+}
+
+void WindowList::Delete(QWidget* window)
+{
+    const auto child = std::find_if(open.begin(), open.end(), [&](const QPointer<QWidget>& each) {
+        return each && each->parentWidget() == window;
+    });
+    if (child == open.end()) {
+        window->deleteLater();
+    } else {
+        QObject::connect(child->data(), &QObject::destroyed, window,
+                         [this, window] { Delete(window); });
     }
 }
 
@@ -72,7 +52,7 @@ void WindowList::CloseAll()
             dialog->done(QDialog::Rejected);
         }
         if (*each) {
-            Bury(*each);
+            Closed(*each);
         }
     }
 }
@@ -91,18 +71,6 @@ QWidget* WindowList::Find(const QString& objectName) const
         return each && each->isVisible() && each->objectName() == objectName;
     });
     return found == open.rend() ? nullptr : found->data();
-}
-
-void WindowList::DeleteBuried()
-{
-    if (EntryDepth() > 0 || running > 0 || QThread::currentThread()->loopLevel() > 1) {
-        return;
-    }
-    deletion.stop();
-    const auto windows = std::exchange(buried, {});
-    for (const QPointer<QWidget>& window : windows) {
-        delete window;
-    }
 }
 
 } // namespace torvenhall

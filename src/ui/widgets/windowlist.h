@@ -1,43 +1,35 @@
 #pragma once
 
-#include <QDialog>
-#include <QObject>
 #include <QPointer>
-#include <QTimer>
+#include <QWidget>
 
 #include <vector>
 
 namespace torvenhall
 {
 
-/// The open windows in the order of their opening, and the closed ones until
-/// they can be deleted: only when no handler of theirs can still be running.
-class WindowList : public QObject
+/// The open windows in the order of their opening.
+class WindowList
 {
 public:
-    WindowList();
-    ~WindowList() override;
+    ~WindowList();
 
     void Opened(QWidget* window);
-    /// Shows a dialog, waits for its end and takes it from the list; its
-    /// answers can be read until the control returns to the event loop.
-    int Run(QDialog* dialog);
-    /// Hides a window and deletes it when that is safe.
-    void Bury(QWidget* window);
+    /// Hides a window and deletes it as soon as the event loop runs and none
+    /// stands on it any more.
+    void Closed(QWidget* window);
     /// Closes all, the last opened first.
     void CloseAll();
     /// The last opened visible window, on which the next one stands.
     QWidget* Top() const;
     /// The last opened visible window of that name, if any.
     QWidget* Find(const QString& objectName) const;
+    const std::vector<QPointer<QWidget>>& All() const { return open; }
 
 private:
-    void DeleteBuried();
+    void Delete(QWidget* window);
 
     std::vector<QPointer<QWidget>> open;
-    std::vector<QPointer<QWidget>> buried;
-    QTimer deletion;
-    int running = 0; ///< dialogs whose loop is on the stack
 };
 
 } // namespace torvenhall

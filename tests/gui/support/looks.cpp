@@ -2,16 +2,12 @@
 
 #include <QFontMetricsF>
 #include <QMenuBar>
-#include <QStyle>
-#include <QtMath>
 
-#include <array>
 #include <cmath>
-#include <optional>
 
 #include "support/play.h"
-#include "ui/widgets/button.h"
-#include "ui/widgets/label.h"
+#include "ui/widgets/gamebutton.h"
+#include "ui/widgets/gamelabel.h"
 #include "ui/widgets/metrics.h"
 
 namespace torvenhall::test
@@ -20,135 +16,100 @@ namespace torvenhall::test
 namespace
 {
 
+constexpr auto TextOf = [](const QWidget& control) { return Screen::TextOf(control); };
+
 // Letters squeezed more than this, or smaller, are no longer easy to read.
 constexpr double NarrowestStretch = 0.7;
 constexpr double SmallestUnits = 9;
-constexpr double ButtonPadding = 9;
 
 QString NameOf(const QWidget& control)
 {
     return control.objectName() + " \"" + TextOf(control).left(40) + '"';
 }
 
-/// The height that a text needs in lines of a width, in the smallest font
-/// that is still readable.
-double WrappedHeight(const GameLabel& label)
+/// What a text takes up in a room, its line's air left out.
+QRectF Ink(const QWidget& control, const QRectF& room, const QFont& font)
 {
-    QFont smallest = label.font();
-    smallest.setPixelSize(std::min(smallest.pixelSize(), Px(SmallestUnits)));
-    const QRectF column(0, 0, label.contentsRect().width(), 1e5);
-    return QFontMetricsF(smallest).boundingRect(column, Qt::TextWordWrap, label.text()).height();
-}
-
-/// Where a label's letters stand, in the label.
-QRectF Ink(const GameLabel& label)
-{
-    const QRect room = label.contentsRect();
-    if (label.wordWrap()) {
-        return room;
-    }
-    const QFontMetricsF metrics(label.font());
-    const QRectF tight = metrics.tightBoundingRect(label.text());
-    const double width = std::min<double>(metrics.horizontalAdvance(label.text()), room.width());
-    const QRectF line = QStyle::alignedRect(Qt::LeftToRight, label.alignment(),
-                                            {qCeil(width), qCeil(metrics.height())}, room);
-    return {line.left(), line.top() + metrics.ascent() + tight.top(), width, tight.height()};
-}
-
-/// What a text takes up in its parent; empty for what shows none.
-QRectF TextPlace(const QWidget& control)
-{
-    if (const auto* label = dynamic_cast<const GameLabel*>(&control)) {
-        return label->text().isEmpty() ? QRectF() : Ink(*label).translated(label->pos());
-    }
-    const char* const kinds[]{"QAbstractButton", "QLineEdit", "QComboBox", "QAbstractScrollArea"};
-    const bool shows = std::any_of(std::begin(kinds), std::end(kinds),
-                                   [&](const char* kind) { return control.inherits(kind); });
-    return shows ? QRectF(control.geometry()) : QRectF();
+    const auto* label = qobject_cast<const QLabel*>(&control);
+    const int flags = label ? static_cast<int>(label->alignment()) : Qt::AlignCenter;
+    const int wraps = label && label->wordWrap() ? Qt::TextWordWrap : 0;
+    const QFontMetricsF metrics(font);
+    const double air = metrics.height() * 0.15;
+    return metrics.boundingRect(room, flags | wraps, TextOf(control)).adjusted(0, air, 0, -air);
 }
 
 bool IsCut(const QWidget& control)
 {
-    const QFontMetricsF metrics(control.font());
-    const QRectF room = control.contentsRect();
-    const double natural = metrics.horizontalAdvance(TextOf(control)) * NarrowestStretch;
-    if (const auto* label = dynamic_cast<const GameLabel*>(&control)) {
-        const bool whole =
-            label->wordWrap() ? WrappedHeight(*label) <= room.height() : natural <= room.width();
-        const QRectF ink = Ink(*label);
-        return !whole || !label->TextFits() || ink.top() < -0.5 ||
-               ink.bottom() > label->height() + 0.5;
+    QRectF room = control.contentsRect();
+    QFont font = control.font();
+    const auto* label = qobject_cast<const QLabel*>(&control);
+    if (const auto* own = dynamic_cast<const GameLabel*>(label); own && own->wordWrap()) {
+        font.setPixelSize(std::min(font.pixelSize(), Px(SmallestUnits)));
+        return !own->TextFits() || !room.contains(Ink(control, room, font));
+    } else if (own) {
+        room.setWidth(room.width() / NarrowestStretch);
+        return !own->TextFits() || !room.contains(Ink(control, room, font));
     }
     if (const auto* button = dynamic_cast<const GameButton*>(&control)) {
-        return natural > button->width() - 2 * Px(ButtonPadding) || !button->TextFits() ||
-               metrics.height() > button->height();
+        room.setWidth((room.width() - Px(18)) / NarrowestStretch);
+        return !button->TextFits() || !room.contains(Ink(control, room, font));
     }
-    if (const auto* bar = qobject_cast<const QMenuBar*>(&control)) {
-        const auto items = bar->actions();
-        return std::any_of(items.begin(), items.end(), [&](QAction* item) {
-            const QRect place = bar->actionGeometry(item);
-            return !bar->rect().contains(place) || metrics.height() > place.height();
-        });
+    bool cut = false; // the toolkit's own: menus, the texts of boxes, buttons, fields
+    for (QAction* item : control.inherits("QMenuBar") ? control.actions() : QList<QAction*>()) {
+        cut |= !room.contains(static_cast<const QMenuBar&>(control).actionGeometry(item));
     }
-    if (const auto* label = qobject_cast<const QLabel*>(&control)) {
-        return label->wordWrap() && label->heightForWidth(label->width()) > label->height() + 1;
-    }
-    if (TextPlace(control).isEmpty() || control.inherits("QAbstractScrollArea")) {
-        return false; // shows no text, or scrolls it
-    }
-    // What is left are the toolkit's own fields, and the buttons of boxes.
-    return (!control.inherits("QLineEdit") && control.sizeHint().width() > control.width() + 1) ||
-           metrics.height() > room.height();
+    const bool shows = control.inherits("QAbstractButton") || control.inherits("QComboBox");
+    return cut || (label && label->heightForWidth(label->width()) > label->height() + 1) ||
+           (shows && control.sizeHint().width() > control.width() + 1) ||
+           (control.inherits("QLineEdit") && QFontMetricsF(font).height() > room.height());
 }
 
 /// Whether one text lies over another, which is not its shadow.
 bool LiesOver(const QWidget& one, const QWidget& other)
 {
-    const bool isShadow = one.inherits("QLabel") && TextOf(one) == TextOf(other);
-    return one.parent() == other.parent() && !isShadow &&
-           TextPlace(one).adjusted(0.5, 0.5, -0.5, -0.5).intersects(TextPlace(other));
+    const auto place = [](const QWidget& control) {
+        const QRectF ink = Ink(control, control.contentsRect(), control.font());
+        return control.inherits("QLabel") ? (ink & control.rect()).translated(control.pos())
+                                          : QRectF(control.geometry());
+    };
+    return one.parent() == other.parent() && TextOf(one) != TextOf(other) &&
+           place(one).adjusted(0.5, 0.5, -0.5, -0.5).intersects(place(other));
 }
 
 double Luminance(QRgb colour)
 {
-    // The light of a colour channel's value.
-    static const auto light = [] {
-        std::array<double, 256> table{};
-        for (std::size_t i = 0; i < table.size(); ++i) {
-            const double share = static_cast<double>(i) / 255;
-            table[i] = share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-        }
-        return table;
-    }();
-    const auto at = [](int channel) { return light[static_cast<std::size_t>(channel)]; };
-    return 0.2126 * at(qRed(colour)) + 0.7152 * at(qGreen(colour)) + 0.0722 * at(qBlue(colour));
+    const auto light = [](int channel) {
+        const double share = channel / 255.0;
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * light(qRed(colour)) + 0.7152 * light(qGreen(colour)) +
+           0.0722 * light(qBlue(colour));
 }
 
-/// The least contrast of a text to what is behind it. Its letters are what
-/// differs between the pictures; the strongest has its colour, unless given.
-double LeastContrast(const QImage& with, const QImage& without, std::optional<QRgb> ink)
+/// The least contrast of a control's letters, which are what differs between
+/// two pictures of its window, to what is behind them.
+double LeastContrast(const QWidget& control, const QImage& with, const QImage& without)
 {
-    QRect letters;
-    QRgb strongest = 0;
-    double most = 0, least = 21;
-    for (int y = 0; y < with.height(); ++y) {
-        for (int x = 0; x < with.width(); ++x) {
+    const int ratio = qRound(with.devicePixelRatio());
+    const QRect place(control.mapTo(control.window(), QPoint()) * ratio, control.size() * ratio);
+    QRgb ink = 0, darkest = 0xFFFFFFFF, brightest = 0xFF000000;
+    const auto lighter = [](QRgb one, QRgb other) {
+        return qGray(one) > qGray(other) ? one : other;
+    };
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        for (int x = place.left(); x <= place.right(); ++x) {
             const QRgb shown = with.pixel(x, y), behind = without.pixel(x, y);
             if (shown != behind) {
-                letters |= QRect(x, y, 1, 1);
-                if (const double contrast = Contrast(shown, behind); contrast > most) {
-                    most = contrast;
-                    strongest = shown;
-                }
+                ink = lighter(shown, ink);
+                brightest = lighter(behind, brightest);
+                darkest = lighter(behind, darkest) == behind ? darkest : behind;
             }
         }
     }
-    for (int y = letters.top(); y <= letters.bottom(); ++y) {
-        for (int x = letters.left(); x <= letters.right(); ++x) {
-            least = std::min(least, Contrast(ink.value_or(strongest), without.pixel(x, y)));
-        }
+    if (const auto* label = dynamic_cast<const GameLabel*>(&control)) {
+        ink = label->Colour().rgb();
     }
-    return least;
+    return std::min(Contrast(ink, darkest), Contrast(ink, brightest));
 }
 
 } // namespace
@@ -159,58 +120,61 @@ double Contrast(QRgb one, QRgb other)
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
-QImage Render(QWidget& window, const QRect& part)
+QImage Render(QWidget& window)
 {
-    return window.grab(part).toImage().convertToFormat(QImage::Format_RGB32);
+    return window.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-QStringList TextFindings(QWidget& window)
+QStringList TextFindings(const QWidget& window)
 {
     QStringList findings;
-    QList<QWidget*> shown;
-    for (QWidget* control : window.findChildren<QWidget*>()) {
-        if (!control->isVisible() || control->window() != &window) {
+    QList<const QWidget*> texts;
+    for (const QWidget* each : window.findChildren<QWidget*>()) {
+        const bool isText = !TextOf(*each).isEmpty();
+        if (!each->isVisible() || each->window() != &window ||
+            (each->inherits("QLabel") && !isText)) {
             continue;
         }
-        if (IsCut(*control)) {
-            findings << NameOf(*control) + " is cut";
-        }
-        if (!TextPlace(*control).isEmpty() &&
-            !control->parentWidget()->rect().contains(control->geometry())) {
-            findings << NameOf(*control) + " stands out of its parent";
-        }
-        for (const QWidget* other : shown) {
-            if (LiesOver(*control, *other)) {
-                findings << NameOf(*control) + " lies over " + NameOf(*other);
+        findings << (IsCut(*each) ? QStringList{NameOf(*each) + " is cut"} : QStringList());
+        if (isText && !each->objectName().startsWith("qt_")) {
+            for (const QWidget* other : texts) {
+                if (LiesOver(*each, *other)) {
+                    findings << NameOf(*each) + " lies over " + NameOf(*other);
+                }
             }
+            if (!each->parentWidget()->rect().contains(each->geometry())) {
+                findings << NameOf(*each) + " stands out of its parent";
+            }
+            texts << each;
         }
-        shown << control;
     }
     return findings;
 }
 
 QStringList ContrastFindings(QWidget& window, double least)
 {
-    QStringList findings;
+    std::vector<std::pair<QWidget*, QString>> texts;
     for (QWidget* each : window.findChildren<QWidget*>()) {
-        auto* label = dynamic_cast<GameLabel*>(each);
+        const auto* label = dynamic_cast<GameLabel*>(each);
         auto* button = dynamic_cast<GameButton*>(each);
-        if (!(label || button) || TextOf(*each).isEmpty() || !each->isVisible() ||
-            (label && label->Colour().alpha() < 255)) {
-            continue;
+        if (each->isVisible() && (button || (label && label->Colour().alpha() == 255))) {
+            texts.emplace_back(each, each->property("text").toString());
         }
-        const QRect part(each->mapTo(&window, QPoint()), each->size());
-        const QString text = button ? button->text() : QString();
         if (button) {
             button->SetGlyph(Glyph::None); // it would move with the text
         }
-        const QImage with = Render(window, part);
-        label ? label->hide() : button->setText({});
-        const QImage without = Render(window, part);
-        label ? label->show() : button->setText(text);
-        const auto ink = label ? std::optional(label->Colour().rgb()) : std::nullopt;
-        if (const double found = LeastContrast(with, without, ink); found < least) {
-            findings << NameOf(*each) + QString(" has %1").arg(found, 0, 'f', 2);
+    }
+    const QImage with = Render(window);
+    for (const auto& [control, text] : texts) {
+        control->setProperty("text", QString());
+    }
+    const QImage without = Render(window);
+    QStringList findings;
+    for (const auto& [control, text] : texts) {
+        control->setProperty("text", text);
+        const double found = text.isEmpty() ? least : LeastContrast(*control, with, without);
+        if (found < least) {
+            findings << NameOf(*control) + QString(" has %1").arg(found, 0, 'f', 2);
         }
     }
     return findings;

@@ -2,19 +2,18 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
-#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QWindow>
 
-#include "core/life.h"
+#include "core/remembered.h"
 #include "core/waits.h"
+#include "game/cheats.h"
 #include "game/newgame.h"
-#include "network/network.h"
+#include "savegame/savegame.h"
 #include "system/basSystem.h"
-#include "ui/widgets/qtext.h"
+#include "ui/frmLang.h"
+#include "ui/windows.h"
 
 void PrintTo(const QString& text, std::ostream* out)
 {
@@ -26,6 +25,7 @@ namespace torvenhall::test
 
 Player::Player()
 {
+    now = this;
     qApp->installEventFilter(this);
 }
 
@@ -40,180 +40,156 @@ bool Player::eventFilter(QObject* watched, QEvent* event)
 {
     static const QStringList waiting{"MessageBox", "InputBox", "frmPlayerName", "frmLocGame",
                                      "frmVirus"};
-    if (event->type() == QEvent::Timer && watched->objectName() == "tmrTime") {
-        return !clockRuns;
-    }
-    auto* dialog = qobject_cast<QDialog*>(watched);
-    if (watches && dialog && event->type() == QEvent::Show && !event->spontaneous() &&
-        waiting.contains(dialog->objectName())) {
-        dialogs.push_back(dialog->objectName());
-        if (const auto* box = qobject_cast<QMessageBox*>(dialog)) {
-            boxes.push_back(box->windowTitle() + ": " + box->text());
+    if (event->type() == QEvent::Show && waiting.contains(watched->objectName())) {
+        if (const auto* box = qobject_cast<QMessageBox*>(watched)) {
+            boxes << box->windowTitle() + ": " + box->text();
         }
-        // From its own event loop, as a player's click would come.
-        QTimer::singleShot(0, dialog, [this, dialog] { React(*dialog); });
+        opened << (reacts ? qobject_cast<QWidget*>(watched) : nullptr);
     }
-    return false;
+    return event->type() == QEvent::Timer && watched->objectName() == "tmrTime";
 }
 
-void Player::React(QWidget& dialog)
+bool Player::Reacts()
 {
-    auto& queue = reactions[dialog.objectName()];
-    const auto* box = qobject_cast<QMessageBox*>(&dialog);
-    if (!queue.empty()) {
-        const Reaction next = queue.front();
-        queue.pop_front();
-        next(dialog);
-    } else if (box && box->buttons().size() == 1) {
-        Click(*box->buttons().first());
-    } else {
-        ADD_FAILURE() << "unexpected question: " << dialog.windowTitle().toStdString();
-        qobject_cast<QDialog*>(&dialog)->done(QDialog::Rejected);
+    if (opened.empty()) {
+        return false;
     }
+    const QPointer<QWidget> dialog = opened.takeFirst();
+    if (dialog && dialog->isVisible()) {
+        auto& queued = reactions[dialog->objectName()];
+        const auto* box = qobject_cast<QMessageBox*>(dialog);
+        const bool tells = box && box->buttons().size() == 1;
+        EXPECT_TRUE(tells || !queued.empty()) << dialog->windowTitle().toStdString();
+        queued.empty() ? tells ? Say("OK") : delete dialog : queued.takeFirst()();
+    }
+    return true;
 }
 
 void Player::NextLifeIs(const QString& name, int level)
 {
-    When("frmPlayerName", [name, level](QWidget& dialog) {
-        auto& field = Control<QLineEdit>(&dialog, "Text1");
-        field.selectAll();
-        Type(field, name);
-        Control<QComboBox>(&dialog, "Combo1").setCurrentIndex(level);
-        Click(Control(&dialog, "Command1"));
+    When("frmPlayerName", [name, level] {
+        Type(Control<QLineEdit>("frmPlayerName", "Text1"), name);
+        Control<QComboBox>("frmPlayerName", "Combo1").setCurrentIndex(level);
+        Click("frmPlayerName", "Command1");
     });
 }
 
 void Player::SavesAs(const QString& name)
 {
-    When("frmLocGame", [name](QWidget& dialog) {
-        Type(Control<QLineEdit>(&dialog, "Text1"), name);
-        Click(Control(&dialog, "Command1"));
+    When("frmLocGame", [name] {
+        Type(Control<QLineEdit>("frmLocGame", "Text1"), name);
+        Click("frmLocGame", "Command1");
     });
 }
 
-void Player::Answers(const QString& caption)
+void Screen::Settle()
 {
-    When("MessageBox", [caption](QWidget& box) { ClickCaption(box, caption); });
+    do {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    } while (Player::now->Reacts());
 }
 
-QStringList OpenWindows()
+bool Screen::Until(const std::function<bool()>& holds)
 {
-    QStringList names;
-    for (const QWidget* each : QApplication::topLevelWidgets()) {
-        if (each->isVisible()) {
-            names << each->objectName();
-        }
+    const QDeadlineTimer patience(10000);
+    for (Settle(); !holds() && !patience.hasExpired(); Settle()) {
+        QTest::qSleep(1);
     }
-    names.sort();
-    return names;
+    return !patience.hasExpired();
 }
 
-QWidget* Find(const QString& window)
+QMultiMap<QString, QWidget*> Screen::Visible()
 {
+    QMultiMap<QString, QWidget*> visible;
     for (QWidget* each : QApplication::topLevelWidgets()) {
-        if (each->isVisible() && each->objectName() == window) {
-            return each;
-        }
+        each->isVisible() ? void(visible.insert(each->objectName(), each)) : void();
     }
-    return nullptr;
+    return visible;
 }
 
-QString TextOf(const QWidget& control)
+QString Screen::TextOf(const QWidget& control)
 {
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) {
-        return button->text().remove('&');
-    }
-    const auto* label = qobject_cast<const QLabel*>(&control);
-    return label ? label->text() : QString();
+    const bool isButton = control.inherits("QAbstractButton");
+    const QString text =
+        isButton || control.inherits("QLabel") ? control.property("text").toString() : QString();
+    return isButton ? QString(text).remove('&') : text;
 }
 
-QString TextOf(const QString& window, const QString& name)
-{
-    return TextOf(Control<QWidget>(window, name));
-}
-
-void Click(QWidget& control)
+void Screen::Click(QWidget& control)
 {
     EXPECT_TRUE(control.isVisible() && control.isEnabled())
         << control.objectName().toStdString() << " cannot be clicked";
     QTest::mouseClick(&control, Qt::LeftButton);
+    Settle();
 }
 
-void Click(const QString& window, const QString& name)
+void Screen::Say(const QString& caption)
 {
-    Click(Control(window, name));
-}
-
-void ClickCaption(QWidget& window, const QString& caption)
-{
-    for (auto* button : window.findChildren<QAbstractButton*>()) {
-        if (TextOf(*button) == caption) {
-            return Click(*button);
-        }
+    QAbstractButton* found = nullptr;
+    for (auto* each : Find("MessageBox")->findChildren<QAbstractButton*>()) {
+        found = TextOf(*each) == caption ? each : found;
     }
-    ADD_FAILURE() << "no button " << caption.toStdString();
+    ASSERT_TRUE(found) << caption.toStdString();
+    Click(*found);
 }
 
-void Choose(const QString& menuItem)
+void Screen::Leave(const QString& window, const QString& way)
 {
-    Control<QAction>("frmMain", menuItem).trigger();
+    way == "Esc"     ? Press(*Find(window), Qt::Key_Escape)
+    : way == "close" ? (Find(window)->close(), Settle())
+                     : Click(window, way);
 }
 
-void Press(QWidget& where, int key, Qt::KeyboardModifiers modifiers)
-{
-    if (modifiers & Qt::ControlModifier || key == Qt::Key_F1) {
-        // A shortcut is found only on the way to the active window, and
-        // without a desktop nothing hands the activation back.
-        where.window()->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(where.window()));
-        QTest::keyClick(where.window()->windowHandle(), static_cast<Qt::Key>(key), modifiers);
-    } else {
-        QTest::keyClick(&where, static_cast<Qt::Key>(key), modifiers);
-    }
-}
-
-void Type(QWidget& where, const QString& text)
+void Screen::Type(QWidget& where, const QString& text, Qt::KeyboardModifiers held)
 {
     for (const QChar letter : text) {
         const auto key = static_cast<Qt::Key>(letter.toUpper().unicode());
-        QTest::sendKeyEvent(QTest::Click, &where, key, QString(letter), Qt::NoModifier);
+        QTest::sendKeyEvent(QTest::Click, &where, key, QString(letter), held);
     }
+    Settle();
 }
 
 Play::Play(double pace) : clock(pace)
 {
-    ResetLife();
-    ResetLabels();
-    ResetNetwork();
-    GameState = {};
-    dice.otherwise = DrawOf(1, 50); // nothing but the ordinary wear happens
-    Connect({&frontEnd, &dice, &clock});
-    SetDirectories(Folder().toStdString(), Folder().toStdString());
+    SetDirectories(Utf8(Folder()), Utf8(Folder()));
+    Start();
 }
 
 Play::~Play()
 {
-    // An ended program leaves the toolkit ended too, until its loop ran again.
-    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
-    QApplication::exec();
-    // The game may have made its own folder the current one.
-    QDir::setCurrent(QDir::tempPath());
+    frontEnd.reset();
+    QDir::setCurrent(QDir::tempPath()); // the game makes its own folder the current one
 }
 
-void Play::Begin(int level, const QString& name)
+void Play::Start()
 {
-    player.NextLifeIs(name, level);
-    EnterRules(NewGame);
+    frontEnd.reset();
+    ResetRules();
+    dice = {};
+    dice.otherwise = DrawOf(1, 50); // nothing but the ordinary wear happens
+    frontEnd.emplace(clock);
+    Connect({&*frontEnd, &dice, &clock});
+    player.reacts = true;
+    player.NextLifeIs("Иван");
+    Do(NewGame);
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
     player.boxes.clear();
-    player.dialogs.clear();
 }
 
-void Play::JustBeforeMidnight()
+void Play::JustBeforeMidnight(const std::deque<float>& draws)
 {
     GameState.GameDate = std::chrono::year{2001} / 6 / 14;
     GameState.GameTime = {23, 30};
-    GameState.GameSpeed = 30;
+    dice.values = draws;
+}
+
+void Play::BeginQuarrel()
+{
+    GameState.Married = GameState.WifeFound = True;
+    JustBeforeMidnight({DrawOf(25, 50)});
+    Tick();
+    EXPECT_TRUE(Until(Typing));
 }
 
 int Play::RunInEventLoop(const std::function<void()>& body)
@@ -225,24 +201,48 @@ int Play::RunInEventLoop(const std::function<void()>& body)
     return QApplication::exec();
 }
 
-QStringList Play::SavedFiles() const
+void Play::ForEachWindow(const std::function<void(QWidget&)>& look)
 {
-    return QDir(Folder() + "SAVE").entryList(QDir::Files);
+    player.reacts = false;
+    std::vector<std::pair<QString, std::function<void()>>> openers{
+        {"frmMain", [] {}},
+        {"frmPlayerName",
+         [] {
+             AskName({"Введите Ваше имя", 1});
+         }},
+        {"frmLocGame", SaveGame},
+        {"frmLocGame", LoadGame},
+        {"frmLang", [] { (new frmLang(Find("frmMain")))->show(); }},
+        {"InputBox", EnterCheat},
+        {"MessageBox",
+         [] {
+             MsgBox("<b>Вы умерли</b> &голодной смертью!", "Желаю тебе быть большим и тольстым",
+                    Icon::Question, Buttons::YesNo);
+         }},
+    };
+    for (const WindowRow& row : WindowTable()) {
+        openers.emplace_back(Text(row.name), [&row] { Windows().OpenWindow(row.name); });
+    }
+    for (const auto& [name, open] : openers) {
+        SCOPED_TRACE(name.toStdString());
+        EnterRules(open);
+        QWidget* window = Find(name);
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        look(*window);
+        if (auto* dialog = qobject_cast<QDialog*>(window)) {
+            dialog->done(QDialog::Rejected);
+            Settle();
+        }
+    }
 }
 
 void Play::ExpectFreshLife(const QString& name)
 {
     EXPECT_EQ(OpenWindows(), QStringList{"frmMain"});
-    EXPECT_EQ(Text(GameState.PlayerName), name);
     EXPECT_EQ(Main().windowTitle(), "Marshend Torvenhall 1.5 - " + name);
-    for (const auto& [label, text] : {std::pair{"lblMoney", "$15"},
-                                      {"lblHappy", "25%"},
-                                      {"lblHealth", "40%"},
-                                      {"lblEat", "75%"},
-                                      {"lblMessage", ""},
-                                      {"lblTime", "1 января 2001 г. - 00:00"}}) {
-        EXPECT_EQ(TextOf("frmMain", label), text);
-    }
+    EXPECT_TRUE(ClockTicks() && !Main().isMinimized());
+    test::ExpectFreshLife(Utf8(name));
 }
 
 } // namespace torvenhall::test

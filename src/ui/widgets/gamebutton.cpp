@@ -1,0 +1,194 @@
+#include "ui/widgets/gamebutton.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "ui/widgets/fittext.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/theme.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+constexpr double SidePadding = 9;
+constexpr double GlyphSize = 15;
+constexpr double GlyphGap = 7;
+} // namespace
+
+GameButton::GameButton(const QString& controlName, const QString& caption, QWidget* parent)
+    : QPushButton(caption, parent)
+{
+    setObjectName(controlName);
+    setAutoDefault(false);
+    setDefault(false);
+    setFont(TextFont(12));
+    setCursor(Qt::PointingHandCursor);
+}
+
+void GameButton::SetGlyph(Glyph newGlyph)
+{
+    glyph = newGlyph;
+    update();
+}
+
+void GameButton::SetMuted(bool newMuted)
+{
+    if (muted != newMuted) {
+        muted = newMuted;
+        update();
+    }
+}
+
+void GameButton::ShowText(const QString& caption)
+{
+    if (text() != caption) {
+        setText(caption);
+        setToolTip(TextFits() ? QString() : caption);
+    }
+}
+
+bool GameButton::TextFits() const
+{
+    return FitText(text(), font(), TextPlace().width()).whole;
+}
+
+QSize GameButton::sizeHint() const
+{
+    const double glyphWidth = glyph == Glyph::None ? 0 : Px(GlyphSize + GlyphGap);
+    const double width = QFontMetricsF(font()).horizontalAdvance(text());
+    return {static_cast<int>(width + glyphWidth) + Px(2 * SidePadding), Px(28)};
+}
+
+QRectF GameButton::TextPlace() const
+{
+    QRectF place = QRectF(rect()).adjusted(Px(SidePadding), 0, -Px(SidePadding), 0);
+    if (glyph != Glyph::None) {
+        place.setLeft(place.left() + Px(GlyphSize + GlyphGap));
+    }
+    return place;
+}
+
+QColor GameButton::Ink() const
+{
+    if (!isEnabled()) {
+        return colour::Faint;
+    }
+    if (muted) {
+        return {150, 163, 170};
+    }
+    return underMouse() || isDown() ? colour::LightCyan : colour::Text;
+}
+
+void GameButton::PaintFace(QPainter& painter) const
+{
+    const double width = std::max(1.0, UnitScale());
+    const QRectF face = QRectF(rect()).adjusted(width / 2, width / 2, -width / 2, -width / 2);
+    const double radius = Px(4);
+    const bool lit = isEnabled() && underMouse() && !isDown();
+
+    QLinearGradient fill(face.topLeft(), face.bottomLeft());
+    QColor edge(140, 214, 226, 96);
+    if (!isEnabled()) {
+        fill.setColorAt(0, QColor(14, 19, 27, 200));
+        fill.setColorAt(1, QColor(10, 15, 22, 200));
+        edge.setAlpha(34);
+    } else if (isDown()) {
+        fill.setColorAt(0, QColor(9, 40, 50, 245));
+        fill.setColorAt(1, QColor(15, 58, 70, 245));
+        edge = colour::LightCyan;
+    } else if (muted) {
+        fill.setColorAt(0, QColor(26, 30, 38, lit ? 240 : 205));
+        fill.setColorAt(1, QColor(17, 20, 27, lit ? 240 : 205));
+        edge = QColor(150, 160, 168, lit ? 150 : 70);
+    } else {
+        fill.setColorAt(0, lit ? QColor(44, 88, 104, 240) : QColor(34, 52, 70, 228));
+        fill.setColorAt(1, lit ? QColor(24, 58, 72, 240) : QColor(17, 28, 41, 228));
+        edge.setAlpha(lit ? 210 : 104);
+    }
+    painter.setBrush(fill);
+    painter.setPen(QPen(edge, width));
+    painter.drawRoundedRect(face, radius, radius);
+
+    if (isEnabled() && !isDown() && !muted) { // the lamp's light on the upper edge
+        painter.setPen(QPen(QColor(255, 255, 255, lit ? 60 : 30), width));
+        painter.drawLine(face.topLeft() + QPointF(radius, width),
+                         face.topRight() + QPointF(-radius, width));
+    }
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(colour::Warm, width * 1.4));
+        const double inset = width * 1.2;
+        painter.drawRoundedRect(face.adjusted(inset, inset, -inset, -inset), radius * 0.7,
+                                radius * 0.7);
+    }
+}
+
+void GameButton::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintFace(painter);
+
+    painter.setFont(font());
+    painter.setPen(Ink());
+    QRectF place = TextPlace();
+    if (isDown()) {
+        place.translate(0, Px(1));
+    }
+    if (glyph != Glyph::None) {
+        const double textWidth =
+            std::min(QFontMetricsF(font()).horizontalAdvance(text()), place.width());
+        double left = place.left();
+        if (alignment & Qt::AlignHCenter) {
+            left += (place.width() - textWidth) / 2;
+            place.setLeft(left);
+        }
+        const QRectF square(left - Px(GlyphSize + GlyphGap),
+                            place.center().y() - Px(GlyphSize) / 2.0, Px(GlyphSize), Px(GlyphSize));
+        const bool plain = isEnabled() && !muted;
+        DrawGlyph(painter, glyph, square, plain ? colour::Warm : Ink());
+        DrawFitted(painter, place, Qt::AlignLeft | Qt::AlignVCenter, text());
+        return;
+    }
+    DrawFitted(painter, place, alignment | Qt::AlignVCenter, text());
+}
+
+void GameButton::keyPressEvent(QKeyEvent* event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->isAutoRepeat() && (enter || event->key() == Qt::Key_Space)) {
+        event->accept(); // a key held down presses once
+        return;
+    }
+    if (enter) {
+        if (enterPresses) {
+            click();
+        }
+        event->accept();
+        return;
+    }
+    QPushButton::keyPressEvent(event);
+}
+
+void GameButton::enterEvent(QEnterEvent* event)
+{
+    QPushButton::enterEvent(event);
+    update();
+}
+
+void GameButton::leaveEvent(QEvent* event)
+{
+    QPushButton::leaveEvent(event);
+    update();
+}
+
+void GameButton::resizeEvent(QResizeEvent* event)
+{
+    QPushButton::resizeEvent(event);
+    setToolTip(TextFits() ? QString() : text());
+}
+
+} // namespace torvenhall

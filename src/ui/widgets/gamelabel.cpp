@@ -1,0 +1,136 @@
+#include "ui/widgets/gamelabel.h"
+
+#include <QPainter>
+#include <QTextDocument>
+#include <QTextLayout>
+#include <QTimer>
+
+#include "core/shown.h"
+#include "ui/widgets/fittext.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/qtext.h"
+#include "ui/widgets/theme.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+constexpr double SmallestUnits = 7.5;
+constexpr int FlashMilliseconds = 250;
+
+} // namespace
+
+GameLabel::GameLabel(const QString& controlName, const QFont& font, QWidget* parent)
+    : QLabel(parent), colour(colour::Text)
+{
+    setObjectName(controlName);
+    setTextFormat(Qt::PlainText);
+    setFont(font);
+}
+
+void GameLabel::SetColour(const QColor& newColour)
+{
+    if (colour != newColour) {
+        colour = newColour;
+        SetSpokenCaption(spokenCaption);
+        update();
+    }
+}
+
+void GameLabel::ShowText(const QString& newText)
+{
+    if (text() != newText) {
+        const bool isChange = !text().isEmpty();
+        setText(newText);
+        setToolTip(TextFits() && !hovers ? QString() : newText);
+        SetSpokenCaption(spokenCaption);
+        if (flashes && isChange) {
+            Flash();
+        }
+    }
+}
+
+void GameLabel::ShowLabel(Label label)
+{
+    const ShownText& shown = ShownAt(label);
+    ShowText(Text(shown.text));
+    SetColour(shown.colour == TextColour::Red ? colour::Danger : colour::LightCyan);
+}
+
+void GameLabel::ShowOnHover()
+{
+    hovers = true;
+    setToolTip(text());
+}
+
+void GameLabel::Flash()
+{
+    lit = true;
+    update();
+    QTimer::singleShot(FlashMilliseconds, this, [this] {
+        lit = false;
+        update();
+    });
+}
+
+void GameLabel::SetSpokenCaption(const QString& caption)
+{
+    spokenCaption = caption;
+    if (!caption.isEmpty()) {
+        // Not every screen reader hears an alert, but each hears a name change.
+        const QString warning = colour == colour::Danger ? ", опасно" : QString();
+        setAccessibleName(caption + ": " + text() + warning);
+    }
+}
+
+bool GameLabel::TextFits() const
+{
+    if (wordWrap()) {
+        bool fits = false;
+        WrappedFont(&fits);
+        return fits;
+    }
+    return FitText(text(), font(), contentsRect().width()).whole;
+}
+
+QFont GameLabel::WrappedFont(bool* fits) const
+{
+    QFont candidate = font();
+    const int smallest = Px(SmallestUnits);
+    for (;; candidate.setPixelSize(candidate.pixelSize() - 1)) {
+        QTextLayout layout(text(), candidate);
+        const bool room = BreakLines(layout, contentsRect().width()) <= contentsRect().height();
+        if (room || candidate.pixelSize() <= smallest) {
+            if (fits) {
+                *fits = room;
+            }
+            return candidate;
+        }
+    }
+}
+
+void GameLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    if (lit) {
+        // Below the caption above it, which must stay readable.
+        painter.fillRect(rect().adjusted(0, Px(3), 0, 0), QColor(192, 255, 255, 48));
+    }
+    painter.setPen(colour);
+    painter.setFont(font());
+    if (!wordWrap()) {
+        DrawFitted(painter, contentsRect(), alignment(), text());
+        return;
+    }
+    QTextLayout layout(text(), WrappedFont());
+    const double height = BreakLines(layout, contentsRect().width());
+    QPointF origin = contentsRect().topLeft();
+    if (alignment() & Qt::AlignVCenter) {
+        origin.ry() += (contentsRect().height() - height) / 2;
+    }
+    layout.draw(&painter, origin);
+}
+
+} // namespace torvenhall

@@ -1,0 +1,33 @@
+#include "ui/widgets/inputwindow.h"
+
+#include <QLineEdit>
+
+#include "ui/widgets/metrics.h"
+
+namespace torvenhall
+{
+
+InputWindow::InputWindow(const QString& prompt, const QString& title, QWidget* parent)
+    : GameWindow("InputBox", 330, 124, parent)
+{
+    setWindowTitle(title);
+    Surface().AddPanel({10, 10, 310, 104}, Scene::Panel::Deep);
+    AddLabel("Prompt", prompt, {22, 16, 286, 24}, TextFont(12));
+    entry = new QLineEdit(&Surface());
+    entry->setObjectName("Text1");
+    entry->setAccessibleName(prompt);
+    entry->setGeometry(PxRect({22, 42, 286, 26}));
+    GameButton* accept = AddButton("Command1", "OK", {112, 78, 94, 28});
+    GameButton* cancel = AddButton("Command2", "Отмена", {214, 78, 94, 28});
+    connect(accept, &QAbstractButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QAbstractButton::clicked, this, &InputWindow::reject);
+    connect(entry, &QLineEdit::returnPressed, this, &QDialog::accept);
+    entry->setFocus();
+}
+
+QString InputWindow::EnteredText() const
+{
+    return entry->text();
+}
+
+} // namespace torvenhall

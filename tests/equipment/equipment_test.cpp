@@ -1,0 +1,99 @@
+#include "equipment/basEquipment.h"
+
+#include "equipment/catalogue.h"
+#include "equipment/shops.h"
+#include "support/life.h"
+
+using namespace torvenhall;
+
+using Equipment = BegunLife;
+
+TEST_F(Equipment, EveryPartIsOfferedAndBoughtForExactlyItsPrice)
+{
+    int score = 0;
+    for (int category = 0; category < HardwareCategories; ++category) {
+        const std::string name{GetHardwareCategoryName(category)};
+        Offer next = HardwareOffer(category);
+        for (int index = 1; next.available; ++index) {
+            const auto [caption, available, price] = next;
+            const auto buy = [=] { BuyNextHardware(category); };
+            const std::string part = GetHardwareName(category, index);
+            const std::string cost = std::to_string(price);
+            EXPECT_EQ(caption, name + " - " + part + " - $" + cost);
+            EXPECT_EQ(GetHardwareEntry(category, index), part + "|" + cost);
+            Assign("Money=" + std::to_string(price - 1));
+            EXPECT_EQ(Outcome(buy), "i Я тоже много хочу!!!: У вас недостаточно денег на покупку " +
+                                        part + " за $" + cost);
+            Assign("Money=" + cost);
+            lines.push_back(name + ": " + Outcome(buy));
+            EXPECT_EQ(HardwareScore(), ++score);
+            next = HardwareOffer(category);
+            EXPECT_EQ(next.available, next.caption != caption) << "the last part stays";
+        }
+    }
+    ExpectKept("hardware.txt", lines);
+}
+
+TEST_F(Equipment, EveryProgramInstallsOnItsLeastComputerAndOnNoLesserOne)
+{
+    const Asked asked{
+        {"HardCPU", 10}, {"HardHDD", 7}, {"HardRAM", 7}, {"HardVideo", 7}, {"SoftOS", 8}};
+    for (int category = 0; category < SoftwareCategories; ++category) {
+        std::string name, offer;
+        for (int index = 1; !GetSoftwareName(category, index).empty(); ++index) {
+            SoftwareField(category) = index - 1;
+            name = GetSoftwareName(category, index);
+            offer = SoftwareOffer(category).caption;
+            EXPECT_TRUE(SoftwareOffer(category).available && offer.ends_with(" - " + name));
+            std::string refused;
+            const auto install = [&] {
+                bool fits = false;
+                const std::string told = Outcome([&] { fits = InstallSoftware(category, index); });
+                EXPECT_TRUE(fits || refused.empty() || told == refused);
+                refused = fits ? refused : told;
+                return fits;
+            };
+            const std::string conditions = Conditions(asked, install);
+            SoftwareField(category) = 99;
+            offer = offer.substr(0, offer.size() - name.size());
+            const std::string done = Outcome([=] { InstallSoftware(category, index); });
+            lines.push_back(Joined({offer + done, conditions, refused}, " | "));
+        }
+        EXPECT_FALSE(SoftwareOffer(category).available);
+        EXPECT_EQ(SoftwareOffer(category).caption, offer + name) << "the last one stays";
+    }
+    ExpectKept("software.txt", lines);
+}
+
+TEST_F(Equipment, AShopOffersOnlyTheNextItemAndAnythingElseIsNothing)
+{
+    Given("SoftOS=2 Money=0");
+    player.open = {"frmHard", "frmSoft"};
+    const auto installGame = [] { InstallNextSoftware(5); };
+    EXPECT_EQ(Outcome(installGame), "lblGames=DOOM-II, reload frmSoft | SoftGames=2");
+    EXPECT_EQ(Outcome(installGame), "lblGames=Quake I, reload frmSoft | SoftGames=3");
+    EXPECT_EQ(Outcome(installGame), "i Ну у Вас и запросы...: Установи Windows 98, reload frmSoft");
+    EXPECT_TRUE(Outcome([] { BuyNextHardware(0); }).ends_with(" за $25, reload frmHard"));
+    const int outside[][2]{{-1, 1}, {0, -1}, {0, 11}, {8, 5}, {9, 1}};
+    for (const auto& [category, index] : outside) {
+        EXPECT_EQ(GetHardwareEntry(category, index), "");
+        EXPECT_EQ(GetHardwarePrice(category, index), 0);
+        EXPECT_EQ(GetHardwareCategoryName(category).empty(), category < 0 || category > 8);
+        EXPECT_EQ(GetSoftwareName(category, index), "");
+        EXPECT_FALSE(InstallSoftware(category, index));
+    }
+    for (Int16& (*const field)(Int16) : {HardwareField, SoftwareField}) {
+        EXPECT_EQ(ErrorOf([=] { field(-1); }).number, error::Subscript);
+        EXPECT_EQ(ErrorOf([=] { field(9); }).number, error::Subscript);
+    }
+    EXPECT_EQ(Outcome([] { InstallHardware(9, 1, false); }), "");
+    EXPECT_EQ(Outcome([] { InstallHardware(0, 2, false); }),
+              "lblhard0=Pentium 133 MHz | HardCPU=2");
+    EXPECT_EQ(Outcome([] { InstallHardware(0, 0, true); }),
+              "Money +0, lblhard0=Нет вооще | HardCPU=0");
+    EXPECT_EQ(Outcome([] { InstallSoftware(0, 0); }), "lblOs=Нет вооще | SoftOS=0");
+    EXPECT_EQ(GetHardwareEntry(3, 0), "Нет вооще|0");
+    Given("HardCPU=32767 HardRAM=1"); // an edited file's
+    EXPECT_EQ(HardwareOffer(0).caption, "");
+    EXPECT_THROW(HardwareScore(), RuntimeError) << "an overflow is an error and not a wrap";
+}

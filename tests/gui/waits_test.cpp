@@ -1,0 +1,205 @@
+// Waits that overlap: each ends when its own time or answer has come, in
+// whatever order they began.
+
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "core/unwinding.h"
+#include "core/waits.h"
+#include "events/message.h"
+#include "network/network.h"
+#include "savegame/savegame.h"
+#include "support/play.h"
+
+using namespace torvenhall;
+using namespace torvenhall::test;
+
+struct Waits : Play {
+    explicit Waits(double pace = 1) : Play(pace) {}
+
+    /// Opens the save dialog, a name typed, and leaves it open.
+    void OpenSaveDialog()
+    {
+        player.When("frmLocGame", [] { Type(Control<QLineEdit>("frmLocGame", "Text1"), "Вечер"); });
+        Choose("mnuFileSavegame");
+    }
+    bool IsSaved() { return QFileInfo(Folder() + "SAVE/Вечер.QVS").size() > 100; }
+};
+
+struct HurriedWaits : Waits {
+    HurriedWaits() : Waits(25) {}
+};
+
+TEST_F(Waits, ASaveConfirmedWhileAMessageIsTypedIsWrittenAtOnceAndStays)
+{
+    for (const bool lifeEnds : {true, false}) {
+        OpenSaveDialog();
+        BeginQuarrel();
+        Click("frmLocGame", "Command1");
+        EXPECT_TRUE(!Find("frmLocGame") && Typing() && IsSaved());
+        if (lifeEnds) {
+            player.NextLifeIs("Новый");
+            Do([] { SetHappy(-80); });
+        } else {
+            player.When("MessageBox", [] { Say("Нет"); });
+            Choose("mnuFileExit");
+            frontEnd.reset();
+        }
+        EXPECT_TRUE(IsSaved());
+        QFile::remove(Folder() + "SAVE/Вечер.QVS");
+    }
+}
+
+TEST_F(Waits, NoAtTheClosingQuestionEndsTheProgramAtOnceWhateverWaits)
+{
+    const std::vector<std::function<void()>> waits{
+        [this] { BeginQuarrel(); },
+        [] { Do(DialInternet); },
+        [this] {
+            player.When("frmVirus", [] {});
+            Do(ShowVirusWindow);
+        },
+        [this] { OpenSaveDialog(); },
+        [&] { std::for_each(waits.begin(), waits.end() - 1, [](auto& each) { each(); }); },
+    };
+    for (const auto& wait : waits) {
+        Start();
+        QElapsedTimer since;
+        const int code = RunInEventLoop([&] {
+            wait();
+            player.When("MessageBox", [&] {
+                since.start();
+                Say("Нет");
+            });
+            Choose("mnuFileExit");
+        });
+        frontEnd.reset();
+        EXPECT_EQ(code, 0);
+        EXPECT_LT(since.elapsed(), 200) << &wait - waits.data();
+        EXPECT_TRUE(OpenWindows().isEmpty() && SavedFiles().isEmpty());
+    }
+}
+
+TEST_F(Waits, TheProgramsEndUnwindsEveryRoutineThatWaits)
+{
+    player.reacts = false;
+    std::size_t unwound = 0;
+    const std::function<void()> waits[]{[] { Pause(1000); },
+                                        [] { MsgBox("Текст", "Окно", Icon::Information); },
+                                        SaveGame,
+                                        ShowVirusWindow,
+                                        DialBoard,
+                                        [] { ShowMessage("Текст"); }};
+    for (const auto& wait : waits) {
+        Do([&unwound, wait] {
+            try {
+                wait();
+            } catch (const Abandoned&) {
+                ++unwound;
+                throw;
+            }
+        });
+    }
+    EXPECT_EQ(unwound, 0U);
+    frontEnd.reset();
+    EXPECT_EQ(unwound, std::size(waits));
+}
+
+TEST_F(HurriedWaits, DiallingGoesOnWhileAMessageIsTypedAndABoxIsOpen)
+{
+    player.When("MessageBox", [] {});
+    Do(DialInternet);
+    Do([] { ShowMessage(std::string(500, '!')); });
+    Do([] { MsgBox("Текст", "Окно", Icon::Information); });
+    EXPECT_TRUE(Until([] { return Network().InetConnected == True; }));
+    EXPECT_TRUE(Typing() && Find("MessageBox"));
+}
+
+TEST_F(HurriedWaits, AMessageGoesOnUnderAnOpenSaveDialogAndAfterIt)
+{
+    const auto grows = [] {
+        const auto before = Shown(Label::lblMessage).size();
+        return Until([=] { return Shown(Label::lblMessage).size() > before; });
+    };
+    BeginQuarrel();
+    OpenSaveDialog();
+    EXPECT_TRUE(grows());
+    Press(*Find("frmLocGame"), Qt::Key_Escape);
+    EXPECT_TRUE(grows());
+    EXPECT_TRUE(Until([] { return Today() == "15.06.2001"; }));
+    EXPECT_FALSE(Typing());
+}
+
+TEST_F(HurriedWaits, ARefusedLoadLetsAMessageBeFinished)
+{
+    player.SavesAs("Чужая");
+    Choose("mnuFileSavegame");
+    QFile file(Folder() + "SAVE/Чужая.QVS");
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.write("?"));
+    file.close();
+    BeginQuarrel();
+    player.When("frmLocGame",
+                [] { Press(Control<QListWidget>("frmLocGame", "List1"), Qt::Key_Return); });
+    Choose("mnuFileLoadgame");
+    EXPECT_EQ(player.boxes, QStringList{"Загрузка игры: Некорректная версия"});
+    EXPECT_TRUE(Typing());
+    EXPECT_TRUE(Until([] { return Today() == "15.06.2001"; }));
+}
+
+TEST_F(Waits, ATicksBoxOverAnOpenSaveDialogIsAnsweredInEitherOrder)
+{
+    for (const bool boxFirst : {true, false}) {
+        GameState.WifeFound = False;
+        OpenSaveDialog();
+        player.When("MessageBox", [] {});
+        JustBeforeMidnight({0, 0, 0, DrawOf(24, 25)}); // brings a wedding
+        Tick();
+        for (const bool box : {boxFirst, !boxFirst}) {
+            EXPECT_EQ(Today() == "15.06.2001", boxFirst && !box);
+            box ? Say("OK") : Click("frmLocGame", "Command1");
+            EXPECT_EQ(SavedFiles().isEmpty(), box && boxFirst);
+        }
+        EXPECT_TRUE(Today() == "15.06.2001" && GameState.WifeFound == True);
+        EXPECT_EQ(OpenWindows(), QStringList{"frmMain"});
+        QFile::remove(Folder() + "SAVE/Вечер.QVS");
+    }
+}
+
+TEST_F(Waits, AWindowIsDeletedWhenItIsClosed)
+{
+    QPointer<QWidget> first = &Main(), shop, box, dialog;
+    player.When("MessageBox", [&] {
+        box = Find("MessageBox");
+        Say("OK");
+    });
+    Click("frmMain", "cmdShop");
+    shop = Find("frmShop");
+    Click("frmShop", "Command2"); // too dear
+    Click("frmShop", "Command8");
+    OpenSaveDialog();
+    dialog = Find("frmLocGame");
+    ASSERT_TRUE(dialog && player.boxes.size() == 1);
+    Press(*dialog, Qt::Key_Escape);
+    EXPECT_FALSE(shop || box || dialog);
+    player.NextLifeIs("Новый");
+    Choose("mnuFileNewgame");
+    EXPECT_FALSE(first);
+}
+
+TEST_F(HurriedWaits, ThousandsOfClicksOnATransferLeaveSixteenThatAllFinish)
+{
+    GameState.HardComm = GameState.SoftBrowser = 1;
+    Click("frmMain", "cmdInInet");
+    Click("frmNetwork", "Command5");
+    ASSERT_TRUE(Until([] { return Network().BbsConnected == True; }));
+    dice.otherwise = 1;
+    for (const char* button : {"cmdBBSUpload", "cmdBBSDownload"}) {
+        for (int i = 0; i < 5000; ++i) {
+            Control("frmNetwork", button).click();
+        }
+        EXPECT_EQ(Network().bbsWaits, 16);
+        EXPECT_TRUE(Until([] { return Network().bbsWaits == 0; }));
+    }
+    EXPECT_EQ(GameState.SoftSize, 16 * 10);
+}
