@@ -48,6 +48,7 @@ struct GameNameQuestion {
     std::string confirm; ///< caption of the confirming button
     std::string name;    ///< the name field's content
     std::vector<std::string> games;
+    std::string trouble = {}; ///< what is wrong with the name, or nothing
 };
 
 /// Everything that the rules ask of the windows. A call marked "waits" suspends

@@ -16,9 +16,10 @@ public:
     enum class What : unsigned char {
         NewGame,
         Load,
-        Day,         ///< a day that is being processed
-        LastBox,     ///< the box that ends a life
-        BoxUnderTick ///< a message box raised by a tick
+        Day,          ///< a day that is being processed
+        LastBox,      ///< the box that ends a life
+        BoxUnderTick, ///< a message box raised by a tick
+        Closing       ///< from the closing question to the end of the program
     };
 
     explicit Running(What what);
@@ -33,6 +34,6 @@ private:
 };
 
 template <>
-inline constexpr std::size_t CountOf<Running::What> = 5;
+inline constexpr std::size_t CountOf<Running::What> = 6;
 
 } // namespace torvenhall

@@ -1,6 +1,7 @@
 #include "core/timelabel.h"
 
 #include "core/GameState.h"
+#include "core/running.h"
 #include "core/shown.h"
 
 namespace torvenhall
@@ -8,8 +9,11 @@ namespace torvenhall
 
 void ShowTime()
 {
-    ShowLabel(Label::lblTime,
-              LongDateText(GameState.GameDate) + " г. - " + TimeText(GameState.GameTime));
+    Date shown = GameState.GameDate;
+    if (Running::Now(Running::What::Day)) {
+        shown = std::chrono::sys_days{shown} + std::chrono::days{1};
+    }
+    ShowLabel(Label::lblTime, LongDateText(shown) + " г. - " + TimeText(GameState.GameTime));
 }
 
 } // namespace torvenhall

@@ -9,7 +9,7 @@ namespace torvenhall
 namespace
 {
 
-std::string ErrorMessage(int number)
+std::string ErrorMessage(int number, const std::string& path)
 {
     if (number == error::OutOfMemory) {
         return "Системная ошибка: Недостаточно памяти для выполнения команды. "
@@ -20,15 +20,15 @@ std::string ErrorMessage(int number)
                "Обратитесь к разработчику! Программа может работать некорректно.";
     }
     return "Возникла непредвиденная ошибка № " + Decimal(number) + " : " +
-           ErrorDescription(number) +
+           ErrorDescription(number) + (path.empty() ? "" : ": " + path) +
            ". Программа может некорректно работать. Обратитесь к разработчику!";
 }
 
 } // namespace
 
-void ReportError(int number)
+void ReportError(int number, const std::string& path)
 {
-    MsgBox(ErrorMessage(number), "Torvenhall", Icon::Critical);
+    MsgBox(ErrorMessage(number, path), "Torvenhall", Icon::Critical);
 }
 
 } // namespace torvenhall

@@ -9,8 +9,9 @@
 namespace torvenhall
 {
 
-/// Shows the error box for a run-time error.
-void ReportError(int number);
+/// Shows the error box for a run-time error, with the file's path if there is
+/// one.
+void ReportError(int number, const std::string& path = {});
 
 /// Runs a body; the run-time error that ended it, or number 0.
 /// Ends of lives and of the program pass through.
@@ -34,7 +35,7 @@ void Trapped(Body&& body)
 {
     const RuntimeError caught = ErrorOf(std::forward<Body>(body));
     if (caught.number != 0) {
-        ReportError(caught.number);
+        ReportError(caught.number, caught.path);
     }
 }
 

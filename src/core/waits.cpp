@@ -1,5 +1,6 @@
 #include "core/waits.h"
 
+#include "core/playclock.h"
 #include "core/routine.h"
 #include "core/running.h"
 #include "core/unwinding.h"
@@ -80,11 +81,13 @@ void ShowVirusWindow()
 
 void Pause(double seconds)
 {
-    const double start = WallSeconds();
+    // Long enough: the end of the pause ends the wait.
+    constexpr double untilItGoesOn = 3600;
+    const double start = PlaySeconds();
     double left = seconds;
-    while (left > 0) {
-        AwaitTime(left);
-        left = seconds - (WallSeconds() - start);
+    while (left > 0 || PlayStandsStill()) {
+        AwaitTime(PlayStandsStill() ? untilItGoesOn : left);
+        left = seconds - (PlaySeconds() - start);
     }
 }
 

@@ -22,7 +22,7 @@ std::optional<NewPlayer> AskName(const NewPlayer& shown);
 std::optional<std::string> AskGameName(const GameNameQuestion& question);
 void ShowVirusWindow();
 
-/// Waits until so many seconds have passed.
+/// Waits until so many seconds of the game (core/playclock.h) have passed.
 void Pause(double seconds);
 /// The network's pause: ends when the elapsed seconds, rounded half to even,
 /// reach n, so up to half a second early; n <= 0 ends at once.

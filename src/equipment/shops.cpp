@@ -14,7 +14,8 @@ Offer HardwareOffer(Int16 category)
 {
     Offer offer;
     // An edited file may hold an index that has no next one; the button then
-    // keeps an empty offer.
+    // only names its kind, and says what is wrong when it is pressed.
+    offer.caption = GetHardwareCategoryName(category);
     TrappedSilently([&] {
         const Int16 installed = HardwareField(category);
         offer.available = !GetHardwareName(category, installed + 1).empty();
@@ -30,6 +31,7 @@ Offer HardwareOffer(Int16 category)
 Offer SoftwareOffer(Int16 category)
 {
     Offer offer;
+    offer.caption = FindOrEmpty(Software, category).offer;
     TrappedSilently([&] {
         const Int16 installed = SoftwareField(category);
         offer.available = !GetSoftwareName(category, installed + 1).empty();
@@ -45,13 +47,13 @@ Offer SoftwareOffer(Int16 category)
 
 void BuyNextHardware(Int16 category)
 {
-    TrappedSilently([&] { InstallHardware(category, HardwareField(category) + 1, true); });
+    Trapped([&] { InstallHardware(category, HardwareField(category) + 1, true); });
     Windows().ReloadWindow(window::frmHard);
 }
 
 void InstallNextSoftware(Int16 category)
 {
-    TrappedSilently([&] { InstallSoftware(category, SoftwareField(category) + 1); });
+    Trapped([&] { InstallSoftware(category, SoftwareField(category) + 1); });
     Windows().ReloadWindow(window::frmSoft);
 }
 

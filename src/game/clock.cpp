@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "activities/work.h"
+#include "core/playclock.h"
 #include "core/running.h"
 #include "core/timelabel.h"
 #include "core/traps.h"
@@ -77,7 +78,7 @@ bool HasWon()
 bool MustNotTick()
 {
     return Running::Now(Running::What::LastBox) || Running::Now(Running::What::Load) ||
-           Running::Now(Running::What::BoxUnderTick);
+           Running::Now(Running::What::BoxUnderTick) || Running::Now(Running::What::Closing);
 }
 
 } // namespace
@@ -112,6 +113,7 @@ void ClockTick()
 
 void PauseGame()
 {
+    SetPaused(true);
     Windows().EnableTimer(false);
     Windows().OpenWindow(window::frmPause);
 }
@@ -120,6 +122,7 @@ void ResumeGame()
 {
     Windows().CloseWindow(window::frmPause);
     Windows().EnableTimer(true);
+    SetPaused(false);
 }
 
 } // namespace torvenhall

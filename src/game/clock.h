@@ -9,7 +9,7 @@ namespace torvenhall
 /// must not disturb.
 void ClockTick();
 
-/// Stops the clock and shows the pause window; and back.
+/// Stops the clock and the message line and shows the pause window; and back.
 void PauseGame();
 void ResumeGame();
 

@@ -3,6 +3,8 @@
 #include <string>
 
 #include "core/GameState.h"
+#include "core/playclock.h"
+#include "core/running.h"
 #include "core/unwinding.h"
 #include "core/waits.h"
 #include "network/network.h"
@@ -26,6 +28,10 @@ void GoOnline()
 
 void CloseProgram()
 {
+    // No tick comes any more and no day goes on: a death would answer with a
+    // new life's name dialog.
+    const Running closing(Running::What::Closing);
+    const StandStill still;
     if (MsgBox("Сохранить игру сейчас???", "Вопрос", Icon::Question, Buttons::YesNo) ==
         Answer::Yes) {
         SaveGame();

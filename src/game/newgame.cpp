@@ -4,6 +4,7 @@
 
 #include "activities/work.h"
 #include "core/basGame.h"
+#include "core/playclock.h"
 #include "core/running.h"
 #include "core/shown.h"
 #include "core/timelabel.h"
@@ -14,6 +15,7 @@
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
 #include "events/family.h"
+#include "savegame/savegame.h"
 #include "system/text.h"
 
 namespace torvenhall
@@ -36,6 +38,7 @@ NewPlayer AskPlayerName()
     GameState.Restarting = True;
     Windows().CloseAllWindows();
     ForgetShown();
+    SetPaused(false);
     GameState.Restarting = False;
 
     NewPlayer player{std::string(NamePlaceholder), 1};
@@ -88,6 +91,7 @@ void EmptyTheComputer()
 
 void Main()
 {
+    DeleteStraySaves();
     NewGame();
 }
 

@@ -167,7 +167,7 @@ void TransferWithBoard(std::string_view verb, bool receives)
     Transfer(Board, nullptr, [&](Int16 size) {
         SayAndWait(Board, "Status: " + std::string(verb) + " " + Decimal(size * 1024) + " Data...",
                    size.value());
-        Say(Board, Connected);
+        SayTruth(Board); // the player may have hung up meanwhile
         if (receives) {
             SetSoftSize(GameState.SoftSize + size);
         }
@@ -184,7 +184,7 @@ void DownloadFromSite(bool enablesSoftware)
         if (enablesSoftware) {
             network->downloadEnabled = true;
         }
-        Say(Internet, Connected);
+        SayTruth(Internet);
     });
 }
 

@@ -71,7 +71,7 @@ std::string GetAnecdote()
     std::string anecdote;
     const RuntimeError failure = ErrorOf([&] { anecdote = RandomLine(path); });
     if (failure.number != 0) {
-        ReportError(failure.number);
+        ReportError(failure.number, failure.path);
         throw failure;
     }
     return anecdote;

@@ -24,7 +24,7 @@ void PassThroughTemp(std::string_view key, std::span<const std::byte> picture)
     }
     const std::string file = folder + std::string(key) + ".JPI";
     const std::string_view bytes(reinterpret_cast<const char*>(picture.data()), picture.size());
-    TrappedSilently([&] { OverwriteFile(file, bytes); });
+    TrappedSilently([&] { WriteNewFile(file, bytes); });
     TrappedSilently([&] { DeleteFile(file); });
 }
 

@@ -53,24 +53,31 @@ std::vector<std::string> SavedFiles()
     return files;
 }
 
-std::optional<std::string> AskForGame(bool saving, const std::string& name)
+/// The saved games' names; a folder that cannot be read is told, and must not
+/// keep the player from saving.
+std::vector<std::string> GamesToSaveOver()
+{
+    std::vector<std::string> names;
+    Trapped([&] { names = ListSavedGames(); });
+    return names;
+}
+
+std::optional<std::string> AskForGame(bool saving, const std::string& name = {},
+                                      const std::string& trouble = {})
 {
     return AskGameName({.saving = saving,
                         .caption = saving ? "Сохранение игры" : "Загрузка игры",
                         .heading = "Доступные игры:",
                         .confirm = saving ? "Сохранить" : "Загрузить",
                         .name = name,
-                        .games = ListSavedGames()});
+                        .games = saving ? GamesToSaveOver() : ListSavedGames(),
+                        .trouble = trouble});
 }
 
 void WriteGame(const std::string& name)
 {
-    const std::string file = FileOf(name);
-    if (!IsPossibleFileName(file)) {
-        throw RuntimeError{error::BadFileName};
-    }
     MakeDirectory(SaveFolder());
-    ReplaceFile(SavePath(file), EncodeGame(GameState));
+    ReplaceFile(SavePath(FileOf(name)), EncodeGame(GameState));
 }
 
 /// Installs what the fields hold already, so that it is shown and checked.
@@ -137,22 +144,31 @@ void LoadNamedGame(const std::string& name)
 
 } // namespace
 
+void DeleteStraySaves()
+{
+    TrappedSilently([] { DeleteStrays(SaveFolder()); });
+}
+
 void SaveGame()
 {
     Trapped([] {
         MakeDirectory(SaveFolder());
-        std::string name;
+        std::string name, trouble;
         for (;;) {
-            const std::optional<std::string> entered = AskForGame(true, name);
+            const std::optional<std::string> entered = AskForGame(true, name, trouble);
             if (!entered || entered->empty()) {
                 return;
             }
             name = *entered;
+            trouble = FileNameTrouble(FileOf(name));
+            if (!trouble.empty()) {
+                continue;
+            }
             const RuntimeError failure = ErrorOf([&] { WriteGame(name); });
             if (failure.number == 0) {
                 return;
             }
-            ReportError(failure.number);
+            ReportError(failure.number, failure.path);
         }
     });
 }
@@ -160,7 +176,7 @@ void SaveGame()
 void LoadGame()
 {
     Trapped([] {
-        const std::optional<std::string> name = AskForGame(false, {});
+        const std::optional<std::string> name = AskForGame(false);
         if (name && !name->empty()) {
             LoadNamedGame(*name);
         }

@@ -6,8 +6,9 @@
 namespace torvenhall
 {
 
-/// Asks for a name and writes the game; tells the player when it failed and
-/// asks again with the name still there. Cancelling writes nothing.
+/// Asks for a name and writes the game. A name that cannot be one is explained
+/// in the dialog, a write that failed in a box; it asks again with the name
+/// still there. Cancelling writes nothing.
 void SaveGame();
 
 /// Asks for a game and applies it line by line through the setters, or tells
@@ -16,7 +17,11 @@ void SaveGame();
 /// bound ends the life (LifeEnd).
 void LoadGame();
 
-/// The names of the saved games, sorted, without their extension.
+/// Deletes what a killed save may have left in the folder of the saved games.
+void DeleteStraySaves();
+
+/// The names of the saved games, sorted, without their extension. Errors 75, 76
+/// when the folder cannot be read.
 std::vector<std::string> ListSavedGames();
 
 } // namespace torvenhall

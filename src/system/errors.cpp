@@ -26,6 +26,7 @@ constexpr std::array Descriptions{
     Description{error::FileNotFound, "Файл не найден"},
     Description{error::DeviceInputOutput, "Ошибка ввода-вывода устройства"},
     Description{error::FileExists, "Файл уже существует"},
+    Description{error::BadRecordLength, "Файл длиннее, чем может быть"},
     Description{error::DiskFull, "Диск переполнен"},
     Description{error::TooManyFiles, "Открыто слишком много файлов"},
     Description{error::PermissionDenied, "Нет разрешения"},

@@ -18,6 +18,7 @@ inline constexpr int BadFileName = 52;
 inline constexpr int FileNotFound = 53;
 inline constexpr int DeviceInputOutput = 57;
 inline constexpr int FileExists = 58;
+inline constexpr int BadRecordLength = 59;
 inline constexpr int DiskFull = 61;
 inline constexpr int TooManyFiles = 67;
 inline constexpr int PermissionDenied = 70;
@@ -28,6 +29,7 @@ inline constexpr int PathNotFound = 76;
 /// A run-time error on its way to the nearest trap (core/traps.h).
 struct RuntimeError {
     int number = 0;
+    std::string path = {}; ///< the file or folder that it is about, if any
 };
 
 /// The Russian description of an error number; a general phrase for a number

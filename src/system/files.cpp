@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <filesystem>
 
 #include "system/errors.h"
@@ -59,6 +60,17 @@ int NumberOf(const std::error_code& failure, Sought sought, std::string_view pat
     return sought == Sought::File && folderIsThere ? error::FileNotFound : error::PathNotFound;
 }
 
+/// Control characters, and those that turn the direction of writing: a name
+/// would not be what it looks like.
+bool IsInvisible(char32_t character)
+{
+    constexpr std::pair<char32_t, char32_t> ranges[]{
+        {0x00, 0x1F}, {0x7F, 0x9F}, {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}};
+    return std::ranges::any_of(ranges, [&](const auto& range) {
+        return character >= range.first && character <= range.second;
+    });
+}
+
 } // namespace
 
 fs::path NativePath(std::string_view utf8)
@@ -74,13 +86,13 @@ std::string Utf8Path(const fs::path& path)
 
 void RaiseFileError(const std::error_code& failure, Sought sought, std::string_view path)
 {
-    throw RuntimeError{NumberOf(failure, sought, path)};
+    throw RuntimeError{NumberOf(failure, sought, path), std::string(path)};
 }
 
 void DeleteFile(const std::string& path)
 {
     if (IsDirectory(path)) {
-        throw RuntimeError{error::PathFileAccess};
+        throw RuntimeError{error::PathFileAccess, path};
     }
     std::error_code failure;
     const bool removed = fs::remove(NativePath(path), failure);
@@ -88,7 +100,7 @@ void DeleteFile(const std::string& path)
         RaiseFileError(failure, Sought::File, path);
     }
     if (!removed) {
-        throw RuntimeError{error::FileNotFound};
+        throw RuntimeError{error::FileNotFound, path};
     }
 }
 
@@ -110,7 +122,7 @@ void MakeDirectory(const std::string& path)
     }
     // A file of that name is neither success nor failure to some libraries.
     if (!IsDirectory(path)) {
-        throw RuntimeError{error::PathFileAccess};
+        throw RuntimeError{error::PathFileAccess, path};
     }
     FlushDirectory(NativePath(path).parent_path());
 }
@@ -128,8 +140,8 @@ std::vector<std::string> FileNames(const std::string& directory)
 {
     std::vector<std::string> names;
     std::error_code failure;
-    for (fs::directory_iterator entry(NativePath(directory), failure), end;
-         !failure && entry != end; entry.increment(failure)) {
+    fs::directory_iterator entry(NativePath(directory), failure);
+    for (; !failure && entry != fs::directory_iterator(); entry.increment(failure)) {
         std::error_code unreadable;
         if (!entry->is_regular_file(unreadable)) {
             continue;
@@ -139,18 +151,42 @@ std::vector<std::string> FileNames(const std::string& directory)
             names.push_back(std::move(name));
         }
     }
+    if (failure && failure != std::errc::no_such_file_or_directory) {
+        RaiseFileError(failure, Sought::Folder, directory);
+    }
     // Names that differ only in case keep one order whatever the folder's is.
     std::ranges::sort(names, {},
                       [](const std::string& name) { return std::pair(FoldCase(name), name); });
     return names;
 }
 
-bool IsPossibleFileName(std::string_view name)
+void DeleteStrays(const std::string& directory)
 {
-    constexpr std::string_view separatorsAndNul{"/\\\0", 3};
-    return !name.empty() && name != "." && name != ".." &&
-           name.find_first_of(separatorsAndNul) == std::string_view::npos && IsUtf8(name) &&
-           PlatformTakesFileName(name);
+    constexpr std::chrono::minutes longestSave{1};
+    for (const std::string& name : FileNames(directory)) {
+        const fs::path path = NativePath(directory) / NativePath(name);
+        std::error_code ignored;
+        if (name.starts_with(StrayPrefix) &&
+            fs::file_time_type::clock::now() - fs::last_write_time(path, ignored) > longestSave) {
+            fs::remove(path, ignored);
+        }
+    }
+}
+
+std::string FileNameTrouble(std::string_view name)
+{
+    if (name.empty() || name == "." || name == ".." || !IsUtf8(name)) {
+        return "Такого названия у файла быть не может.";
+    }
+    for (const std::string_view character : Characters(name)) {
+        if (character == "/" || character == "\\") {
+            return "В названии не должно быть знака «" + std::string(character) + "».";
+        }
+        if (IsInvisible(CodePoint(character))) {
+            return "В названии есть невидимый знак.";
+        }
+    }
+    return PlatformNameTrouble(name);
 }
 
 } // namespace torvenhall

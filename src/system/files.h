@@ -12,7 +12,12 @@ namespace torvenhall
 
 inline constexpr char PathSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
 
-/// The whole file. Errors 53 (missing), 70, 75, 76, 57 as the system tells.
+/// No file of the game is nearly as long, bytes.
+inline constexpr std::size_t LongestFile = 1U << 20U;
+
+/// The whole file, which must be a regular one (else error 75) and not longer
+/// than LongestFile (error 59). Errors 53 (missing), 70, 75, 76, 57 as the
+/// system tells.
 std::string ReadWholeFile(const std::string& path);
 
 /// Replaces the file so that at any moment, a crash or a full disk included,
@@ -24,9 +29,9 @@ std::string ReadWholeFile(const std::string& path);
 /// already.) A write-protected file is not replaced.
 void ReplaceFile(const std::string& path, std::string_view bytes);
 
-/// Writes over the start of the file, which is created if missing and is not
-/// shortened. Errors as above.
-void OverwriteFile(const std::string& path, std::string_view bytes);
+/// Puts a new file in the place of whatever has that name; never writes through
+/// a link. Errors as above.
+void WriteNewFile(const std::string& path, std::string_view bytes);
 
 void DeleteFile(const std::string& path);
 
@@ -38,13 +43,17 @@ void MakeDirectory(const std::string& path);
 void ChangeDirectory(const std::string& path);
 
 /// The names of the regular files of a folder, sorted without regard to
-/// case; names that are not UTF-8 are left out. Empty when the folder cannot
-/// be read.
+/// case; names that are not UTF-8 are left out. Empty when there is no such
+/// folder; errors 75, 76 when it cannot be read.
 std::vector<std::string> FileNames(const std::string& directory);
 
-/// Whether the file system takes a file of this name (no folder in it):
-/// not empty, no separator or NUL, not "." or "..", no name reserved by the
-/// system, not too long.
-bool IsPossibleFileName(std::string_view name);
+/// Deletes the temporary files that killed writers have left in a folder, but
+/// none that may still be written by another copy of the program.
+void DeleteStrays(const std::string& directory);
+
+/// Why no file should have this name (no folder in it), in the player's words
+/// and in Russian: empty, a separator, a character that cannot be seen, a name
+/// reserved by the system, too long. Empty when there is nothing to say.
+std::string FileNameTrouble(std::string_view name);
 
 } // namespace torvenhall

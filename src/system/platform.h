@@ -24,11 +24,16 @@ enum class Sought : unsigned char { File, Folder };
 /// Whether the path opens for reading as a file.
 bool OpensForReading(const std::string& path);
 
-/// Makes a folder's new entries outlast a power cut, where the platform can.
+/// Makes a folder's new entries outlast a power cut, where the platform can;
+/// raises when that failed.
 void FlushDirectory(const std::filesystem::path& directory);
 
-/// Whether the platform takes a file of this name, which is UTF-8, not empty
-/// and without separators.
-bool PlatformTakesFileName(std::string_view name);
+/// What the platform has against a file of this name, which is UTF-8, not
+/// empty and without separators.
+std::string PlatformNameTrouble(std::string_view name);
+/// How the names of temporary files begin.
+inline constexpr std::string_view StrayPrefix = ".torvenhall-";
+
+inline constexpr std::string_view NameTooLong = "Название слишком длинное.";
 
 } // namespace torvenhall

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "system/basSystem.h"
+#include "system/errors.h"
 #include "system/platform.h"
 
 namespace torvenhall
@@ -17,7 +18,6 @@ namespace
 {
 
 constexpr mode_t OrdinaryMode = 0666;
-constexpr mode_t PermissionBits = 07777;
 
 /// An open file or folder.
 class Descriptor
@@ -27,6 +27,7 @@ public:
     explicit Descriptor(int opened) : number(opened) {}
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
+    Descriptor(Descriptor&& other) noexcept : number(std::exchange(other.number, -1)) {}
     Descriptor& operator=(Descriptor&& other) noexcept
     {
         std::swap(number, other.number);
@@ -42,7 +43,11 @@ public:
     bool IsOpen() const { return number >= 0; }
     /// Whether closing succeeded: some file systems tell of a failed write
     /// only here.
-    bool Close() { return ::close(std::exchange(number, -1)) == 0; }
+    bool Close()
+    {
+        // An interrupted close has closed.
+        return ::close(std::exchange(number, -1)) == 0 || errno == EINTR;
+    }
 
 private:
     int number = -1;
@@ -52,6 +57,22 @@ std::error_code LastError()
 {
     const bool overQuota = errno == EDQUOT;
     return {overQuota ? ENOSPC : errno, std::generic_category()};
+}
+
+/// Repeats a call that a signal has interrupted.
+template <class Call>
+auto Retried(Call&& call)
+{
+    auto result = call();
+    while (result < 0 && errno == EINTR) {
+        result = call();
+    }
+    return result;
+}
+
+Descriptor Open(const std::string& path, int flags, mode_t mode = 0)
+{
+    return Descriptor(Retried([&] { return ::open(path.c_str(), flags | O_CLOEXEC, mode); }));
 }
 
 void RaiseUnless(bool succeeded, std::string_view path)
@@ -64,25 +85,19 @@ void RaiseUnless(bool succeeded, std::string_view path)
 bool WriteAll(int file, std::string_view bytes)
 {
     while (!bytes.empty()) {
-        const ssize_t written = ::write(file, bytes.data(), bytes.size());
-        if (written > 0) {
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        } else if (written == 0 || errno != EINTR) {
+        const ssize_t written = Retried([&] { return ::write(file, bytes.data(), bytes.size()); });
+        if (written <= 0) {
             errno = written == 0 ? EIO : errno;
             return false;
         }
+        bytes.remove_prefix(static_cast<std::size_t>(written));
     }
     return true;
 }
 
 bool Flush(int file)
 {
-    while (::fsync(file) != 0) {
-        if (errno != EINTR) {
-            return false;
-        }
-    }
-    return true;
+    return Retried([&] { return ::fsync(file); }) == 0;
 }
 
 /// Some network file systems cannot flush a folder and say so; those order
@@ -101,9 +116,12 @@ public:
         // A file left by a killed process of the same number may be in the way.
         constexpr int attempts = 100;
         for (int attempt = 0; attempt < attempts && !file.IsOpen(); ++attempt) {
-            name = ".torvenhall-" + std::to_string(::getpid()) + "-" + std::to_string(attempt);
-            file = Descriptor(::openat(folder, name.c_str(),
-                                       O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, OrdinaryMode));
+            name = std::string(StrayPrefix) + std::to_string(::getpid()) + "-" +
+                   std::to_string(attempt);
+            file = Descriptor(Retried([&] {
+                return ::openat(folder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+                                OrdinaryMode);
+            }));
             if (!file.IsOpen() && errno != EEXIST) {
                 break;
             }
@@ -131,12 +149,13 @@ public:
         struct stat old {
         };
         if (::fstatat(folder, target.c_str(), &old, 0) == 0) {
-            static_cast<void>(::fchmod(file.Number(), old.st_mode & PermissionBits));
+            static_cast<void>(::fchmod(file.Number(), old.st_mode & OrdinaryMode));
         }
     }
     bool RenameTo(const std::string& target)
     {
-        const bool renamed = ::renameat(folder, name.c_str(), folder, target.c_str()) == 0;
+        const bool renamed =
+            Retried([&] { return ::renameat(folder, name.c_str(), folder, target.c_str()); }) == 0;
         mustGo = !renamed;
         return renamed;
     }
@@ -153,21 +172,26 @@ private:
 std::string ReadWholeFile(const std::string& path)
 {
     // Not blocking: a pipe of that name must not stop the game.
-    Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const Descriptor file = Open(path, O_RDONLY | O_NONBLOCK);
     RaiseUnless(file.IsOpen(), path);
+    struct stat status {
+    };
+    RaiseUnless(::fstat(file.Number(), &status) == 0, path);
+    if (!S_ISREG(status.st_mode)) {
+        throw RuntimeError{error::PathFileAccess, path};
+    }
     std::string bytes;
     std::array<char, 16384> block;
-    for (;;) {
-        const ssize_t count = ::read(file.Number(), block.data(), block.size());
+    while (bytes.size() <= LongestFile && std::cmp_less_equal(status.st_size, LongestFile)) {
+        const ssize_t count =
+            Retried([&] { return ::read(file.Number(), block.data(), block.size()); });
+        RaiseUnless(count >= 0, path);
         if (count == 0) {
             return bytes;
         }
-        if (count > 0) {
-            bytes.append(block.data(), static_cast<std::size_t>(count));
-        } else {
-            RaiseUnless(errno == EINTR, path);
-        }
+        bytes.append(block.data(), static_cast<std::size_t>(count));
     }
+    throw RuntimeError{error::BadRecordLength, path};
 }
 
 void ReplaceFile(const std::string& path, std::string_view bytes)
@@ -178,7 +202,7 @@ void ReplaceFile(const std::string& path, std::string_view bytes)
 
     // The folder is opened first, so that nothing is in place yet if it cannot
     // be.
-    Descriptor folder(::open(folderPath.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descriptor folder = Open(folderPath, O_RDONLY | O_DIRECTORY);
     RaiseUnless(folder.IsOpen(), path);
     // A rename would not mind a file that the player has protected.
     RaiseUnless(
@@ -194,30 +218,28 @@ void ReplaceFile(const std::string& path, std::string_view bytes)
 
 void FlushDirectory(const std::filesystem::path& directory)
 {
-    Descriptor folder(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder.IsOpen()) {
-        static_cast<void>(FlushFolder(folder.Number()));
-    }
+    const Descriptor folder = Open(directory.string(), O_RDONLY | O_DIRECTORY);
+    RaiseUnless(folder.IsOpen() && FlushFolder(folder.Number()), directory.string());
 }
 
-void OverwriteFile(const std::string& path, std::string_view bytes)
+void WriteNewFile(const std::string& path, std::string_view bytes)
 {
-    Descriptor file(
-        ::open(path.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, OrdinaryMode));
+    static_cast<void>(::unlink(path.c_str()));
+    Descriptor file = Open(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, OrdinaryMode);
     RaiseUnless(file.IsOpen(), path);
     RaiseUnless(WriteAll(file.Number(), bytes) && file.Close(), path);
 }
 
 bool OpensForReading(const std::string& path)
 {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const Descriptor file = Open(path, O_RDONLY | O_NONBLOCK);
     return file.IsOpen() && !IsDirectory(path);
 }
 
-bool PlatformTakesFileName(std::string_view name)
+std::string PlatformNameTrouble(std::string_view name)
 {
     constexpr std::size_t longest = 255;
-    return name.size() <= longest;
+    return std::string(name.size() <= longest ? "" : NameTooLong);
 }
 
 std::string GetWindowsDir()

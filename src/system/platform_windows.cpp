@@ -15,6 +15,7 @@
 #undef ReplaceFile
 
 #include "system/basSystem.h"
+#include "system/errors.h"
 #include "system/platform.h"
 #include "system/text.h"
 
@@ -169,9 +170,13 @@ std::string ReadWholeFile(const std::string& path)
                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     RaiseUnless(file.IsOpen(), path);
+    LARGE_INTEGER size{};
+    if (::GetFileType(file.Get()) != FILE_TYPE_DISK || ::GetFileSizeEx(file.Get(), &size) == 0) {
+        throw RuntimeError{error::PathFileAccess, path};
+    }
     std::string bytes;
     std::array<char, 16384> block;
-    for (;;) {
+    while (bytes.size() <= LongestFile && std::cmp_less_equal(size.QuadPart, LongestFile)) {
         DWORD count = 0;
         RaiseUnless(::ReadFile(file.Get(), block.data(), static_cast<DWORD>(block.size()), &count,
                                nullptr) != 0,
@@ -181,13 +186,14 @@ std::string ReadWholeFile(const std::string& path)
         }
         bytes.append(block.data(), count);
     }
+    throw RuntimeError{error::BadRecordLength, path};
 }
 
 void ReplaceFile(const std::string& path, std::string_view bytes)
 {
     const std::size_t nameAt = path.find_last_of("\\/:") + 1;
-    TemporaryFile temporary(
-        Wide(path.substr(0, nameAt) + ".torvenhall-" + std::to_string(::GetCurrentProcessId())));
+    TemporaryFile temporary(Wide(path.substr(0, nameAt) + std::string(StrayPrefix) +
+                                 std::to_string(::GetCurrentProcessId())));
     RaiseUnless(temporary.IsOpen(), path);
     RaiseUnless(temporary.Fill(bytes), path);
     // A folder cannot be flushed here; the move itself waits for the disk.
@@ -199,10 +205,11 @@ void FlushDirectory(const std::filesystem::path&)
     // The file system orders its own folders.
 }
 
-void OverwriteFile(const std::string& path, std::string_view bytes)
+void WriteNewFile(const std::string& path, std::string_view bytes)
 {
-    Handle file(::CreateFileW(Wide(path).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
-                              FILE_ATTRIBUTE_NORMAL, nullptr));
+    ::DeleteFileW(Wide(path).c_str());
+    Handle file(::CreateFileW(Wide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                              FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
     RaiseUnless(file.IsOpen(), path);
     RaiseUnless(WriteAll(file.Get(), bytes) && file.Close(), path);
 }
@@ -216,17 +223,17 @@ bool OpensForReading(const std::string& path)
         .IsOpen();
 }
 
-bool PlatformTakesFileName(std::string_view name)
+std::string PlatformNameTrouble(std::string_view name)
 {
     constexpr std::size_t longest = 255;
+    constexpr std::string_view forbidden{"<>:\"|?*"};
     constexpr std::array<std::string_view, 6> devices{"con", "prn",    "aux",
                                                       "nul", "conin$", "conout$"};
-    const bool hasForbidden = std::ranges::any_of(name, [](char c) {
-        return (c >= 0 && c < ' ') ||
-               std::string_view{"<>:\"|?*"}.find(c) != std::string_view::npos;
-    });
-    if (hasForbidden || name.ends_with('.') || name.ends_with(' ') || Wide(name).size() > longest) {
-        return false;
+    if (const std::size_t at = name.find_first_of(forbidden); at != std::string_view::npos) {
+        return "В названии не должно быть знака «" + std::string(1, name[at]) + "».";
+    }
+    if (Wide(name).size() > longest) {
+        return std::string(NameTooLong);
     }
     // A device keeps its meaning with any extension and with blanks before it.
     std::string stem = FoldCase(name.substr(0, name.find('.')));
@@ -234,7 +241,11 @@ bool PlatformTakesFileName(std::string_view name)
     const bool isPort =
         (stem.starts_with("com") || stem.starts_with("lpt")) && Characters(stem).size() == 4 &&
         std::string_view{"0123456789¹²³"}.find(stem.substr(3)) != std::string_view::npos;
-    return !isPort && std::ranges::find(devices, stem) == devices.end();
+    const bool isDevice = isPort || std::ranges::find(devices, stem) != devices.end();
+    if (isDevice || name.ends_with('.') || name.ends_with(' ')) {
+        return "Такое название занято системой.";
+    }
+    return {};
 }
 
 std::string GetWindowsDir()

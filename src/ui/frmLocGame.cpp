@@ -1,5 +1,6 @@
 #include "ui/frmLocGame.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 
@@ -30,6 +31,7 @@ frmLocGame::frmLocGame(const GameNameQuestion& question, QWidget* parent)
     TabThrough({list, name, confirm, cancel});
     if (question.saving) {
         name->setFocus();
+        name->selectAll();
     } else {
         list->setFocus();
     }
@@ -39,7 +41,15 @@ void frmLocGame::AddEntries(const GameNameQuestion& question)
 {
     list->setObjectName("List1");
     list->setAccessibleName(Text(question.heading));
-    list->setGeometry(PxRect({26, 44, 328, 186}));
+    const double troubleHeight = question.trouble.empty() ? 0 : 36;
+    list->setGeometry(PxRect({26, 44, 328, 186 - troubleHeight}));
+    if (!question.trouble.empty()) {
+        GameLabel* trouble = AddLabel("Trouble", Text(question.trouble),
+                                      {26, 232 - troubleHeight, 328, troubleHeight}, TextFont(12));
+        trouble->SetColour(colour::Warm);
+        trouble->setWordWrap(true);
+        name->setAccessibleDescription(trouble->text());
+    }
     list->setSpacing(Px(2));
     for (const std::string& game : question.games) {
         list->addItem(Text(game));
@@ -56,17 +66,32 @@ void frmLocGame::AddEntries(const GameNameQuestion& question)
             pick(item);
         }
     });
-    // Enter takes the row that the focus stands on, picked or not.
-    connect(list, &QListWidget::itemActivated, this, [this, pick](const QListWidgetItem* item) {
-        pick(item);
-        accept();
-    });
+    // A second click by mistake must not write over a game.
+    if (!question.saving) {
+        connect(list, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
+    }
+    list->installEventFilter(this);
     connect(name, &QLineEdit::returnPressed, this, &QDialog::accept);
 }
 
 std::string frmLocGame::EnteredName() const
 {
     return Utf8(name->text());
+}
+
+bool frmLocGame::eventFilter(QObject* watched, QEvent* event)
+{
+    // Enter takes a row that was chosen; the focus alone chooses nothing.
+    if (watched == list && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            if (!list->selectedItems().isEmpty()) {
+                accept();
+            }
+            return true;
+        }
+    }
+    return GameWindow::eventFilter(watched, event);
 }
 
 void frmLocGame::reject()

@@ -19,6 +19,7 @@ public:
     std::string EnteredName() const;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void reject() override;
 
 private:

@@ -93,7 +93,9 @@ void frmMain::BuildSettingsMenus()
 void frmMain::BuildHelpMenu()
 {
     QMenu* menu = AddMenu("Сп&равка");
-    AddItem(menu, "mnuhelpReadme", "Справка", ShowReadme)->setShortcut(QKeySequence("F1"));
+    QAction* help = AddItem(menu, "mnuhelpReadme", "Справка", ShowReadme);
+    help->setShortcut(QKeySequence("F1"));
+    help->setAutoRepeat(false); // one editor, however long the key is held
     AddItem(menu, "mnuHelpEULA", "Лицензионное соглашение", ShowLicence);
     AddSeparator(menu, "mnuHelpS1");
     AddItem(menu, "mnuHelpAbout", "О программе...", [] { Windows().OpenWindow("frmAbout"); });

@@ -94,6 +94,8 @@ TEST_F(Equipment, AShopOffersOnlyTheNextItemAndAnythingElseIsNothing)
     EXPECT_EQ(Outcome([] { InstallSoftware(0, 0); }), "lblOs=Нет вооще | SoftOS=0");
     EXPECT_EQ(GetHardwareEntry(3, 0), "Нет вооще|0");
     Given("HardCPU=32767 HardRAM=1"); // an edited file's
-    EXPECT_EQ(HardwareOffer(0).caption, "");
+    EXPECT_EQ(HardwareOffer(0).caption, "Процессор");
+    EnterRules([] { BuyNextHardware(0); });
+    EXPECT_EQ(ErrorTold(), error::Overflow);
     EXPECT_THROW(HardwareScore(), RuntimeError) << "an overflow is an error and not a wrap";
 }

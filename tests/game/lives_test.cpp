@@ -70,7 +70,7 @@ TEST_F(Lives, WhateverADeathOrTheProgramsEndInterruptsTouchesNobodyAfterIt)
         {"under the cheat console", "Health=-49", Midnight, EnterCheat},
         {"a new game during the day's message", "", [] { EnterRules(NewGame); }, [this] { DayOf(32); }, 0},
         {"in the virus window", "", Die, [this] { DayOf(21); }},
-        {"under the closing question", "Health=-49", Midnight, CloseProgram, 2},
+        {"under the closing question", "Health=-49", Midnight, CloseProgram, 1, true},
         {"under the save dialog", "", Die, SaveGame},
         {"while the name is asked for", "", DieAgain, NewGame, 0},
         {"no name for the next life", "", [] {}, Die, 1, true},
@@ -110,7 +110,7 @@ TEST_F(Lives, TimeGoesOnDuringAMessageButNoSecondDayBegins)
     EnterRules(DialInternet);
     Meanwhile([&] {
         Tick(3);
-        EXPECT_EQ(LabelShown(lblTime), "14 июня 2001 г. - 01:30");
+        EXPECT_EQ(LabelShown(lblTime), "15 июня 2001 г. - 01:30") << "the day that has begun";
         Tick(200);
         EXPECT_EQ(GameState.GameTime, (TimeOfDay{23, 30})) << "the tick to midnight is dropped";
         EXPECT_EQ(Network().TrafficHours, 24) << "it bills no hour either";
@@ -119,6 +119,26 @@ TEST_F(Lives, TimeGoesOnDuringAMessageButNoSecondDayBegins)
     EXPECT_EQ(LabelShown(lblTime), "15 июня 2001 г. - 23:30");
     EXPECT_EQ(GameState.Money, 5);
     EXPECT_EQ(GameState.EatLevel, 70) << "one day's wear";
+}
+
+TEST_F(Lives, APausePausesTheMessageAndTheRestOfItsDay)
+{
+    int waits = 0;
+    Meanwhile([&] {
+        PauseGame();
+        const std::string typed = LabelShown(lblMessage);
+        player.atEachWait = [&, typed] {
+            EXPECT_EQ(LabelShown(lblMessage), typed);
+            if (++waits == 2) {
+                player.atEachWait = [] {};
+                ResumeGame();
+            }
+        };
+    });
+    DayOf(29);
+    EXPECT_EQ(waits, 2);
+    EXPECT_GT(player.seconds, 3600) << "an hour of pause does not count";
+    EXPECT_EQ(GameState.Money, 5);
 }
 
 TEST_F(Lives, TicksAreDroppedUnderATicksBoxButRunUnderAClicksBoxAndTheVirusWindow)

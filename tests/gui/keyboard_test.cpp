@@ -111,6 +111,20 @@ TEST_F(Keyboard, EnterInAFreshlyOpenedWindowCostsNothing)
     EXPECT_EQ(Network().inetStatus, "Status: Disconnected");
 }
 
+TEST_F(Keyboard, F1OpensTheManualInEveryWindow)
+{
+    ForEachWindow([this](QWidget& window) {
+        player.boxes.clear();
+        EXPECT_TRUE(Until([&] { return QApplication::activeWindow() == &window; }));
+        Press(window, Qt::Key_F1); // given no manual beside the program
+        EXPECT_TRUE(player.boxes.value(0).startsWith("Ошибка: Файл справочной информации"));
+        for (QWidget* box : Visible().values("MessageBox")) {
+            box == &window ? void() : void(box->close());
+        }
+        Settle();
+    });
+}
+
 TEST_F(Keyboard, PauseAndCheatKeysActWhereverTheFocusIsAndOthersDoNot)
 {
     auto& button = Control("frmMain", "cmdInInet");

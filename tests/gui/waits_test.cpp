@@ -139,8 +139,11 @@ TEST_F(HurriedWaits, ARefusedLoadLetsAMessageBeFinished)
     ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.write("?"));
     file.close();
     BeginQuarrel();
-    player.When("frmLocGame",
-                [] { Press(Control<QListWidget>("frmLocGame", "List1"), Qt::Key_Return); });
+    player.When("frmLocGame", [] {
+        auto& list = Control<QListWidget>("frmLocGame", "List1");
+        list.setCurrentRow(0);
+        Press(list, Qt::Key_Return);
+    });
     Choose("mnuFileLoadgame");
     EXPECT_EQ(player.boxes, QStringList{"Загрузка игры: Некорректная версия"});
     EXPECT_TRUE(Typing());

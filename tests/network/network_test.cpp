@@ -106,8 +106,7 @@ TEST_F(Lines, WhateverHappensInAPauseLeavesLinesAndButtonsRight)
         {DialBoard, ReceiveFromBoard, ReceiveFromBoard, 7, "Disconnected/Connected 1 5 6"},
         {DialInternet, DownloadSoftware, DownloadAntivirus, 7, "Connected/Disconnected 1 5 6"},
         {DialInternet, DownloadAntivirus, DownloadSoftware, 7, "Connected/Disconnected 1 5 6"},
-        // A finished download says so; the window that opens next, the truth.
-        {DialInternet, DownloadAntivirus, DialInternet, 3, "Connected/Disconnected 1 5 6"},
+        {DialInternet, DownloadAntivirus, DialInternet, 3, "Disconnected/Disconnected 1 5 6"},
         {nothing, DialInternet, die, 0, "Disconnected/Disconnected 1 5 6"},
         {nothing, DialBoard, die, 0, "Disconnected/Disconnected 1 5 6"},
         {DialInternet, DialInternet, die, 0, "Connected/Disconnected 1 5 6"},

@@ -6,6 +6,7 @@
 #include "savegame/format.h"
 #include "support/life.h"
 #include "system/codepage.h"
+#include "system/text.h"
 
 using namespace torvenhall;
 
@@ -101,13 +102,13 @@ TEST_F(SavedGames, TheDialogsAskInTheGamesWordsAndAnEmptyNameIsACancel)
     }
     lines = Happened();
     EXPECT_TRUE(FileExists(PathOf("game.qvs.QVS")));
-    const std::pair<std::string, int> refused[]{
-        {"../a", 52}, {"a/b", 52}, {std::string(300, 'n'), 52}, {"folder", 75}};
     std::filesystem::rename(PathOf("folder.qvs"), PathOf("folder.QVS"));
-    for (const auto& [name, number] : refused) {
+    for (const char* name : {"../a", "folder"}) {
+        player.journal.clear();
         Save(name);
-        EXPECT_EQ(ErrorTold(), number) << name;
-        EXPECT_NE(player.journal.back().find(" | " + name + "_"), std::string::npos);
+        for (const std::string& told : Happened()) {
+            lines.push_back(ReplaceAll(told, folder, "FOLDER/"));
+        }
     }
     EXPECT_FALSE(std::filesystem::exists(folder + "a.QVS"));
     ExpectKept("dialogs.txt", lines);

@@ -139,7 +139,8 @@ public:
     std::optional<std::string> AskGameName(const GameNameQuestion& question) override
     {
         return Ask(games, Joined({question.caption, question.heading, Joined(question.games),
-                                  question.name + (question.saving ? "_" : ""), question.confirm},
+                                  question.name + (question.saving ? "_" : ""), question.confirm,
+                                  question.trouble},
                                  " | "));
     }
     void OpenWindow(std::string_view window) override

@@ -2,6 +2,7 @@
 #include <csignal>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -42,11 +43,12 @@ TEST_F(Files, AReplacedFileHoldsExactlyTheNewBytesKeepsItsPermissionsAndIsAlone)
 {
     const std::string bytes{"\x09\x0A\x0D\x1A\x00\xFF", 6};
     EXPECT_EQ(Replacing("a longer text before"), "0 a longer text before 1");
-    fs::permissions(path, fs::perms{0604});
+    fs::permissions(path, fs::perms{04715});
     EXPECT_EQ(Replacing(bytes), "0 " + bytes + " 1");
-    EXPECT_EQ(fs::status(path).permissions(), fs::perms{0604});
-    OverwriteFile(path, "XY");
-    EXPECT_EQ(ReadWholeFile(path), "XY" + bytes.substr(2)) << "overwriting does not shorten";
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms{0604}) << "a game is no program";
+    fs::create_symlink(path, folder + "link");
+    WriteNewFile(folder + "link", "XY");
+    EXPECT_EQ(ReadWholeFile(folder + "link") + ReadWholeFile(path), "XY" + bytes);
 }
 
 TEST_F(Files, GivenAFailingFlushOrAFullDiskTheErrorIsToldAndTheOldFileStays)
@@ -91,10 +93,15 @@ TEST_F(Files, TroublesAreToldApartAndLeaveTheFolderAlone)
 {
     const std::string file = folder + "file";
     ReplaceFile(file, "");
+    ASSERT_EQ(mkfifo((folder + "pipe").c_str(), 0600), 0);
+    ReplaceFile(folder + "large", "");
+    fs::resize_file(folder + "large", LongestFile + 1);
     const std::pair<std::function<void()>, int> rows[]{
         {[&] { ReadWholeFile(path); }, error::FileNotFound},
         {[&] { ReadWholeFile(folder + "none/a"); }, error::PathNotFound},
         {[&] { ReadWholeFile(folder); }, error::PathFileAccess},
+        {[&] { ReadWholeFile(folder + "pipe"); }, error::PathFileAccess},
+        {[&] { ReadWholeFile(folder + "large"); }, error::BadRecordLength},
         {[&] { DeleteFile(path); }, error::FileNotFound},
         {[&] { DeleteFile(folder); }, error::PathFileAccess},
         {[&] { ChangeDirectory(file); }, error::PathNotFound},
@@ -110,7 +117,8 @@ TEST_F(Files, TroublesAreToldApartAndLeaveTheFolderAlone)
         EXPECT_EQ(ErrorOf(attempt).number, number) << &attempt - &rows[0].first;
     }
     EXPECT_TRUE(IsDirectory(path));
-    EXPECT_EQ(FileNames(folder), Texts{"file"});
+    EXPECT_EQ(FileNames(folder), (Texts{"file", "large"}));
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(path); }).path, path);
     EXPECT_TRUE(FileExists(file));
     EXPECT_FALSE(FileExists(folder));
     EXPECT_FALSE(FileExists(folder + "none") || fs::exists(folder + "none"));
@@ -120,15 +128,27 @@ TEST_F(Files, NamesAreSortedWithoutRegardToCaseAndImpossibleOnesRefused)
 {
     const std::string longest(255, 'n');
     for (const std::string& name : Texts{"б", "В", "a", "B", " ", longest}) {
-        EXPECT_TRUE(IsPossibleFileName(name)) << name;
+        EXPECT_EQ(FileNameTrouble(name), "") << name;
         ReplaceFile(folder + name, "");
     }
     ReplaceFile(folder + "\xFF", "not UTF-8");
     MakeDirectory(folder + "folder");
     EXPECT_EQ(FileNames(folder), (Texts{" ", "a", "B", longest, "б", "В"}));
     EXPECT_TRUE(FileNames(folder + "none").empty());
-    for (const std::string& name :
-         Texts{"", ".", "..", "a/b", "a\\b", {"a\0b", 3}, longest + "n", "\xD0"}) {
-        EXPECT_FALSE(IsPossibleFileName(name)) << name;
+    const std::string slash = "В названии не должно быть знака «/».",
+                      unseen = "В названии есть невидимый знак.",
+                      never = "Такого названия у файла быть не может.";
+    const std::pair<std::string, std::string> refused[]{
+        {"", never},
+        {"..", never},
+        {"\xD0", never},
+        {"a/b", slash},
+        {"a\\b", "В названии не должно быть знака «\\»."},
+        {{"a\0b", 3}, unseen},
+        {"a\x1F", unseen},
+        {"a\u202Eb", unseen},
+        {longest + "n", "Название слишком длинное."}};
+    for (const auto& [name, trouble] : refused) {
+        EXPECT_EQ(FileNameTrouble(name), trouble);
     }
 }

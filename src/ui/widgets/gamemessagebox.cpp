@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "ui/widgets/helpkey.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
 
@@ -52,6 +53,7 @@ GameMessageBox::GameMessageBox(const MessageBox& box, QWidget* parent)
         each->setMinimumSize(Px(84), Px(26));
     }
     WidenForTitle();
+    OpenManualByKey(this);
 }
 
 void GameMessageBox::WidenForTitle()

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 
 #include "game/entry.h"
+#include "ui/widgets/helpkey.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/theme.h"
 
@@ -24,6 +25,7 @@ GameWindow::GameWindow(const QString& name, double width, double height, QWidget
     setObjectName(name);
     setFixedSize(scene->size());
     setSizeGripEnabled(false);
+    OpenManualByKey(this);
 }
 
 void GameWindow::Act(const std::function<void()>& call)
