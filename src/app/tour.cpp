@@ -189,6 +189,8 @@ private:
             question.games.push_back("игра " + std::to_string(i));
         }
         VisitDialog("frmLocGame-save", [&] { AskGameName(question); });
+        question.trouble = "В названии не должно быть знака «/».";
+        VisitDialog("frmLocGame-trouble", [&] { AskGameName(question); });
         question = {false, "Загрузка игры", "Доступные игры:", "Загрузить", "", question.games};
         VisitDialog("frmLocGame-load", [&] { AskGameName(question); });
     }
