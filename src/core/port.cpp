@@ -15,6 +15,11 @@ void Connect(const Ports& ports)
     connected = ports;
 }
 
+void ConnectWindows(FrontEnd& windows)
+{
+    connected.frontEnd = &windows;
+}
+
 FrontEnd& Windows()
 {
     return *connected.frontEnd;

@@ -53,8 +53,7 @@ struct GameNameQuestion {
 
 /// Everything that the rules ask of the windows. A call marked "waits" suspends
 /// the routine that made it, and nothing else, until its own answer or time is
-/// there; ticks and clicks may enter the rules meanwhile. After `EndProgram`
-/// each of them returns at once.
+/// there; ticks and clicks may enter the rules meanwhile.
 class FrontEnd
 {
 public:
@@ -105,6 +104,7 @@ public:
     virtual bool StartProgram(const std::string& program,
                               const std::vector<std::string>& arguments) = 0;
     /// Makes everything that waits go on and the process end with exit code 0.
+    /// The last call.
     virtual void EndProgram() = 0;
 };
 
@@ -138,6 +138,8 @@ struct Ports {
 /// Connects the rules to their surroundings; the objects must outlive every
 /// other call.
 void Connect(const Ports& ports);
+/// Changes the windows alone.
+void ConnectWindows(FrontEnd& windows);
 /// The connected windows. Calls that wait go through core/waits.h instead.
 FrontEnd& Windows();
 

@@ -2,6 +2,7 @@
 
 #include "core/port.h"
 #include "core/remembered.h"
+#include "core/silentfrontend.h"
 
 namespace torvenhall
 {
@@ -33,8 +34,11 @@ void EndLife()
 void EndProgram()
 {
     if (!*programEnded) {
+        static SilentFrontEnd silence;
+        FrontEnd& windows = Windows();
         *programEnded = true;
-        Windows().EndProgram();
+        ConnectWindows(silence);
+        windows.EndProgram();
     }
     throw Abandoned{};
 }

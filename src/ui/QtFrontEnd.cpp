@@ -46,9 +46,6 @@ frmMain& QtFrontEnd::MainWindow()
 
 void QtFrontEnd::LabelChanged(Label label)
 {
-    if (ended) {
-        return;
-    }
     MainWindow().LabelChanged(label);
     for (const QPointer<QWidget>& each : windows.All()) {
         if (auto* window = dynamic_cast<GameWindow*>(each.data())) {
@@ -65,7 +62,7 @@ void QtFrontEnd::Close(QWidget* window)
     }
 }
 
-/// Shows a dialog until it has ended; false if the program did before it.
+/// Shows a dialog until it has ended; false if it vanished without an end.
 bool QtFrontEnd::AwaitEndOf(QDialog& dialog)
 {
     const QPointer<QDialog> shown = &dialog;
@@ -78,7 +75,7 @@ bool QtFrontEnd::AwaitEndOf(QDialog& dialog)
     if (shown) {
         Close(shown);
     }
-    return !ended && shown;
+    return shown;
 }
 
 bool QtFrontEnd::IsConfirmed(QDialog& dialog)
@@ -89,45 +86,30 @@ bool QtFrontEnd::IsConfirmed(QDialog& dialog)
 Answer QtFrontEnd::ShowMessageBox(const MessageBox& box)
 {
     const Answer unanswered = box.buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
-    if (ended) {
-        return unanswered;
-    }
     auto* message = new GameMessageBox(box, windows.Top());
     return AwaitEndOf(*message) ? message->PressedAnswer() : unanswered;
 }
 
 std::optional<std::string> QtFrontEnd::AskText(std::string_view prompt, std::string_view title)
 {
-    if (ended) {
-        return {};
-    }
     auto* input = new InputWindow(Text(prompt), Text(title), windows.Top());
     return IsConfirmed(*input) ? std::optional(Utf8(input->EnteredText())) : std::nullopt;
 }
 
 std::optional<NewPlayer> QtFrontEnd::AskName(const NewPlayer& shown)
 {
-    if (ended) {
-        return {};
-    }
     auto* dialog = new frmPlayerName(shown, windows.Top());
     return IsConfirmed(*dialog) ? std::optional(dialog->Entered()) : std::nullopt;
 }
 
 std::optional<std::string> QtFrontEnd::AskGameName(const GameNameQuestion& question)
 {
-    if (ended) {
-        return {};
-    }
     auto* dialog = new frmLocGame(question, windows.Top());
     return IsConfirmed(*dialog) ? std::optional(dialog->EnteredName()) : std::nullopt;
 }
 
 void QtFrontEnd::Wait(double seconds)
 {
-    if (ended) {
-        return;
-    }
     auto pause = pauses.end();
     routines.Await([&](const Routines::Resume& resume) {
         pause = pauses.insert(pauses.end(), resume);
@@ -148,7 +130,7 @@ void QtFrontEnd::EndPauses()
 void QtFrontEnd::OpenWindow(std::string_view window)
 {
     const WindowRow* row = FindWindow(window);
-    if (ended || row == nullptr) {
+    if (row == nullptr) {
         return;
     }
     if (GameWindow* open = Find(window); open && window == window::frmPause) {
@@ -175,7 +157,7 @@ void QtFrontEnd::OpenWindow(std::string_view window)
 
 GameWindow* QtFrontEnd::Find(std::string_view window) const
 {
-    return ended ? nullptr : dynamic_cast<GameWindow*>(windows.Find(Text(window)));
+    return dynamic_cast<GameWindow*>(windows.Find(Text(window)));
 }
 
 void QtFrontEnd::CloseWindow(std::string_view window)
@@ -203,32 +185,26 @@ void QtFrontEnd::DisableButton(std::string_view window, std::string_view control
 
 void QtFrontEnd::CloseAllWindows()
 {
-    if (!ended) {
-        EnableTimer(false);
-        windows.CloseAll();
-        mainWindow = nullptr;
-    }
+    EnableTimer(false);
+    windows.CloseAll();
+    mainWindow = nullptr;
 }
 
 void QtFrontEnd::ShowMainWindow()
 {
-    if (!ended) {
-        MainWindow().show();
-        MainWindow().raise();
-        MainWindow().activateWindow();
-    }
+    MainWindow().show();
+    MainWindow().raise();
+    MainWindow().activateWindow();
 }
 
 void QtFrontEnd::SetMainTitle(std::string_view title)
 {
-    if (!ended) {
-        MainWindow().setWindowTitle(Text(title));
-    }
+    MainWindow().setWindowTitle(Text(title));
 }
 
 void QtFrontEnd::EnableTimer(bool enabled)
 {
-    if (mainWindow && !ended) {
+    if (mainWindow) {
         mainWindow->EnableTimer(enabled);
     }
 }
@@ -244,18 +220,14 @@ bool QtFrontEnd::StartProgram(const std::string& program, const std::vector<std:
     for (const std::string& argument : arguments) {
         list.append(Text(argument));
     }
-    return !ended && QProcess::startDetached(Text(program), list);
+    return QProcess::startDetached(Text(program), list);
 }
 
 void QtFrontEnd::EndProgram()
 {
-    if (ended) {
-        return;
-    }
     EnableTimer(false);
     windows.CloseAll();
     EndPauses();
-    ended = true;
     QCoreApplication::exit(0);
 }
 

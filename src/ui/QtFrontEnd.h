@@ -59,7 +59,6 @@ private:
     std::list<Routines::Resume> pauses;
     WindowList windows;
     QPointer<frmMain> mainWindow;
-    bool ended = false;
 };
 
 } // namespace torvenhall
