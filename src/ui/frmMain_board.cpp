@@ -229,8 +229,9 @@ void frmMain::BuildButtons()
             continue;
         }
         auto* button = new GameButton(row.button, row.caption, scene);
-        const double left = Left + (i % ButtonsInRow) * (width + Gap);
-        const double top = ButtonsTop + (i / ButtonsInRow) * (ButtonHeight + Gap);
+        const int column = i % ButtonsInRow, line = i / ButtonsInRow;
+        const double left = Left + column * (width + Gap);
+        const double top = ButtonsTop + line * (ButtonHeight + Gap);
         button->setGeometry(PxRect({left, top, width, ButtonHeight}));
         button->SetGlyph(row.glyph);
         button->installEventFilter(this);

@@ -10,6 +10,7 @@ frmWork::frmWork(QWidget* parent) : ActivityWindow({"frmWork", "Работа", "
 {
     AddSlogan("Label2", "Label3", "Центр занятости населения", {20, 14, 520, 34});
     std::vector<std::pair<QString, QString>> captions;
+    captions.reserve(JobButtons);
     for (int i = 0; i < JobButtons; ++i) {
         captions.emplace_back(QString("cmdWork%1").arg(i),
                               Text(JobCaptions[static_cast<std::size_t>(i)]));

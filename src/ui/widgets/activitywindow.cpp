@@ -54,8 +54,9 @@ void ActivityWindow::AddChoices(const Group& group,
     }
     const double column = (inside.width() - (group.columns - 1) * ChoiceGap) / group.columns;
     for (int i = 0; i < count; ++i) {
-        const double left = inside.left() + (i / rows) * (column + ChoiceGap);
-        const double top = inside.top() + captionHeight + (i % rows) * (ChoiceHeight + ChoiceGap);
+        const int right = i / rows, down = i % rows;
+        const double left = inside.left() + right * (column + ChoiceGap);
+        const double top = inside.top() + captionHeight + down * (ChoiceHeight + ChoiceGap);
         const auto& [name, caption] = namedCaptions[static_cast<std::size_t>(i)];
         GameButton* button = AddButton(name, caption, {left, top, column, ChoiceHeight});
         button->SetAlignment(Qt::AlignLeft);

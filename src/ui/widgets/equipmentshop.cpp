@@ -11,6 +11,7 @@ EquipmentShop::EquipmentShop(const Plan& plan, const Goods& newGoods, QWidget* p
       prices(static_cast<std::size_t>(newGoods.categories))
 {
     std::vector<std::pair<QString, QString>> captions;
+    captions.reserve(prices.size());
     for (int category = 0; category < goods.categories; ++category) {
         captions.emplace_back(goods.buttonName + QString::number(category), "%CPUBUTTON%");
     }
