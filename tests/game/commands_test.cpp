@@ -21,7 +21,7 @@ TEST_F(Commands, ANewGameReplacesEverythingButTheAttendanceInItsOrder)
     ShowLabel(lblMessage, "taxes");
     NextLifeIs("<b>", 2);
     EnterRules(Main);
-    lines = InRows(Happened());
+    lines = Happened();
     lines.push_back(ChangedFields({}));
     player.names = {
         {{"Введите Ваше имя", 1}}, {{"Я: введите ВАШЕ имя!", 2}}, {{"", 0}}, {{" ", 0}}};

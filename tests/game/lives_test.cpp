@@ -1,7 +1,8 @@
-// Life's end, the life number, the program's end and the ticks in between:
+// The ticks, life's end, the life number and the program's end:
 // each row and each test fails when its decision is undone.
 
 #include "activities/services.h"
+#include "activities/work.h"
 #include "core/running.h"
 #include "core/waits.h"
 #include "game/cheats.h"
@@ -12,6 +13,7 @@
 #include "support/life.h"
 
 using namespace torvenhall;
+using std::chrono::sys_days;
 
 class Lives : public BegunLife
 {
@@ -30,79 +32,71 @@ protected:
         dice.values = {DrawOf(draw, 50)};
         Midnight();
     }
-    static void Die()
-    {
-        EnterRules([] { SetHealth(-50); });
-    }
-    static void Quit() { EnterRules(EndProgram); }
-    static void DieAgain()
-    {
-        const TimeOfDay stopped = GameState.GameTime;
-        EXPECT_NO_THROW(SetHealth(-500));
-        Tick(10);
-        EXPECT_EQ(GameState.GameTime, stopped);
-    }
 };
 
 TEST_F(Lives, WhateverADeathOrTheProgramsEndInterruptsTouchesNobodyAfterIt)
 {
-    // clang-format off
-    struct {
-        const char* what;
-        const char* given;
-        std::function<void()> meanwhile, happens;
-        std::size_t boxes = 1; ///< before the new life
-        bool ends = false;     ///< the program, instead of a new life
-    } const rows[]{
-        {"a purchase", "Happy=-30 Money=300", [] {}, [] { BuyService(Hospital, 4); }},
-        {"taxes after two days' wear", "Happy=-60 Money=1000", [] {}, [] {
+    const std::map<std::string, std::function<void()>> deeds{
+        {"nothing", [] {}},
+        {"treatment", [] { BuyService(Hospital, 4); }},
+        {"refusal",
+         [] {
+             BuyService(Entertainment, 0);
+             SetMoney(99999); // what the dead person's handler would do next
+         }},
+        {"year",
+         [] {
              JustBeforeMidnight();
              GameState.GameDate = MakeDate(31, 12, 2001);
              ClockTick();
          }},
-        {"under a shop's refusal", "EatLevel=-34", Midnight, [] {
-             BuyService(Entertainment, 0);
-             SetMoney(99999); // what the dead person's handler would do next
-         }, 2},
-        {"under the winner's box", "CurrWork=12 HardCPU=59 Money=10001", DieAgain, ClockTick},
-        {"under a tick's death box", "EatLevel=-34", DieAgain, Midnight},
-        {"under a click's death box", "", DieAgain, Die},
-        {"under the cheat console", "Health=-49", Midnight, EnterCheat},
-        {"a new game during the day's message", "", [] { EnterRules(NewGame); }, [this] { DayOf(32); }, 0},
-        {"in the virus window", "", Die, [this] { DayOf(21); }},
-        {"under the closing question", "Health=-49", Midnight, CloseProgram, 1, true},
-        {"under the save dialog", "", Die, SaveGame},
-        {"while the name is asked for", "", DieAgain, NewGame, 0},
-        {"no name for the next life", "", [] {}, Die, 1, true},
-        {"the answer no during a day's message", "", [] { EnterRules(CloseProgram); }, [this] { DayOf(29); }, 1, true},
-        {"quitting in a network's pause", "", Quit, DialInternet, 0, true},
-        {"quitting under the save dialog", "", Quit, SaveGame, 0, true},
-    };
-    // clang-format on
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.what);
+        {"tick", ClockTick},
+        {"midnight", Midnight},
+        {"quarrel", [this] { DayOf(29); }},
+        {"wish", [this] { DayOf(32); }},
+        {"virus", [this] { DayOf(21); }},
+        {"death", [] { EnterRules([] { SetHealth(-50); }); }},
+        {"again",
+         [] {
+             const TimeOfDay stopped = GameState.GameTime;
+             EXPECT_NO_THROW(SetHealth(-500));
+             Tick(10);
+             EXPECT_EQ(GameState.GameTime, stopped);
+         }},
+        {"cheat", EnterCheat},
+        {"game", [] { EnterRules(NewGame); }},
+        {"save", SaveGame},
+        {"dial", DialInternet},
+        {"question", [] { EnterRules(CloseProgram); }},
+        {"end", [] { EnterRules(EndProgram); }}};
+    // "virus death": in what the virus' day opens, death comes.
+    ExpectEach("lives.txt", [&](const std::string& line) {
+        SCOPED_TRACE(line);
+        std::istringstream words(line);
+        std::string happens, meanwhile, name, fields;
+        std::getline(words >> happens >> meanwhile >> name, fields);
         StartRules({&player, &dice, &player}, folder);
         player.programEnded = false;
         Begin();
-        Assign(row.given);
-        NextLifeIs("Новый");
-        player.names = {row.ends ? std::nullopt : player.names[0]};
+        Assign(fields);
+        NextLifeIs(name);
+        player.names[0] = name == "nobody" ? std::nullopt : player.names[0];
         player.open = {"frmHospital"};
         player.inputs = {"QUOKKAFOX"};
         player.games = {"a"};
         player.answers = {Answer::No};
-        Meanwhile(row.meanwhile);
-        EnterRules(row.happens);
-        EXPECT_EQ(Told().size(), row.boxes);
-        EXPECT_EQ(player.journal.back() == "end program", row.ends);
+        Meanwhile(deeds.at(meanwhile));
+        EnterRules(deeds.at(happens));
         EXPECT_EQ(GameState.Money, 15);
         EXPECT_TRUE(ListSavedGames().empty() && Network().InetConnected == False);
-        if (!row.ends) {
-            ExpectFreshLife("Новый");
-            EXPECT_TRUE(player.open.empty());
-            EXPECT_FALSE(Running::Now(Running::What::Day));
+        if (player.journal.back() == "end program") {
+            return Joined(Told()) + " - the end";
         }
-    }
+        ExpectFreshLife(name);
+        EXPECT_TRUE(player.open.empty());
+        EXPECT_FALSE(Running::Now(Running::What::Day));
+        return Joined(Told());
+    });
 }
 
 TEST_F(Lives, TimeGoesOnDuringAMessageButNoSecondDayBegins)
@@ -161,4 +155,37 @@ TEST_F(Lives, TicksAreDroppedUnderATicksBoxButRunUnderAClicksBoxAndTheVirusWindo
     });
     DayOf(21);
     EXPECT_EQ(LabelShown(lblTime), "15 июня 2001 г. - 04:30");
+}
+
+TEST_F(Lives, ATickAddsTheSpeedCarriesOneHourAtMostAndTheRichestWins)
+{
+    EnterRules(DialInternet); // counts the hours
+    TryEach("clock.txt", {{"at", [this](int time) {
+                               GameState.GameTime = {time / 100, time % 100};
+                               const Int16 hours = Network().TrafficHours;
+                               dice.calls.clear();
+                               ClockTick();
+                               const bool billed = Network().TrafficHours > hours;
+                               player.journal.emplace_back(billed ? "billed" : "");
+                               EXPECT_TRUE(dice.calls.starts_with(" seed")) << "from the timer";
+                           }}});
+}
+
+TEST_F(Lives, EachDayOfACenturyIsPaidEachMonthsEndChargedAndEachYearsEndTaxed)
+{
+    SetWork(1);
+    for (sys_days today{FirstDay}; today < sys_days{std::chrono::year{2105} / 1 / 1};) {
+        const Date before{today};
+        const Date after{today += std::chrono::days{1}};
+        JustBeforeMidnight();
+        GameState.GameDate = before;
+        Assign("Happy=30000 Health=30000 EatLevel=30000 Money=996 Alimony=3");
+        Tick();
+        const bool monthEnds = before.month() != after.month();
+        const bool yearEnds = before.year() != after.year();
+        // The wage, then the alimony, then a quarter of the 1003 that they leave.
+        ASSERT_EQ(GameState.Money, yearEnds ? 752 : monthEnds ? 1003 : 1006) << DateText(after);
+        ASSERT_EQ(GameState.Happy, 30000 - (yearEnds ? 20 : monthEnds ? 10 : 5));
+        ASSERT_EQ(GameState.GameDate, after);
+    }
 }

@@ -88,6 +88,10 @@ TEST_F(Games, APausedLifeIsSavedAndContinuedAfterAnotherOne)
 {
     SetMoney(321);
     Type(Main(), "p");
+    const auto& veil = Control<QWidget>("frmMain", "PauseVeil"); // clicks go through
+    auto& button = Control("frmMain", "cmdShop");
+    EXPECT_TRUE(veil.isVisible() && veil.geometry() == veil.parentWidget()->rect());
+    EXPECT_EQ(veil.parentWidget()->childAt(button.geometry().center()), &button);
     player.SavesAs("Жизнь");
     Click("frmPause", "Command2");
     Click("frmPause", "Command3");

@@ -23,18 +23,15 @@ protected:
                (now.downloadEnabled ? " 6" : "") + std::string(stars, '*');
     }
 
-    /// Writes down what each text of a button is, for how many seconds it
-    /// stays, and what comes of it.
-    void Press(const std::string& what, void (*button)(), float draw = 0)
+    /// What each text of a button is, for how many seconds it stays, and what
+    /// comes of it.
+    std::string Press(const std::function<void()>& button)
     {
-        dice.values = {draw};
-        lines.push_back(what + ":");
+        std::string told;
         double began = player.seconds;
         const auto show = [&] {
-            if (!lines.back().ends_with(":")) {
-                lines.back() += ", " + DecimalOf(std::ceil(player.seconds - began)) + " s |";
-            }
-            lines.back() += " " + Shown();
+            const std::string stood = DecimalOf(std::ceil(player.seconds - began));
+            told += (told.empty() ? "" : ", " + stood + " s | ") + Shown();
             began = player.seconds;
         };
         player.atEachWait = [&] {
@@ -45,95 +42,57 @@ protected:
         show();
         player.atEachWait = [] {};
         const std::size_t label = outcome.find("lbl"), money = outcome.find("Money");
-        const std::size_t at = std::min({label, money, outcome.size()});
-        lines.back() = Joined({lines.back(), outcome.substr(at)});
+        return Joined({told, outcome.substr(std::min({label, money, outcome.size()}))});
     }
 
-    /// Both lines as in a fresh program, but for one of them up.
-    static void Fresh(void (*dial)())
-    {
-        const Game life = GameState;
-        ResetRules();
-        GameState = life;
-        Assign("HardComm=1 SoftBrowser=1");
-        dial();
-    }
+    const std::map<std::string, std::function<void()>> buttons{
+        {"Internet", DialInternet},
+        {"board", DialBoard},
+        {"software", DownloadSoftware},
+        {"antivirus", DownloadAntivirus},
+        {"receive", ReceiveFromBoard},
+        {"send", SendToBoard},
+        {"hour", NetworkHourTick},
+        {"death", [] { SetHealth(-50); }},
+        {"fresh", [this] { // both lines as in a program that has just started
+             ResetRules();
+             Begin();
+             Assign("HardComm=1 SoftBrowser=1");
+             player.open = {"frmNetwork"};
+         }}};
 };
 
-TEST_F(Lines, EveryButtonShowsItsTextsForTheirSeconds)
+TEST_F(Lines, EveryButtonShowsItsTextsForTheirSecondsWhateverHappensInItsPauses)
 {
-    player.open = {"frmNetwork"};
-    Press("Internet", DialInternet);
-    NetworkHourTick();
-    Press("board, refused", DialBoard);
-    Press("software", DownloadSoftware, 0.7F);
-    Press("antivirus", DownloadAntivirus, 0.2F);
-    Press("software, nothing", DownloadSoftware);
-    Press("Internet, after an hour", DialInternet);
-    NetworkHourTick();
-    Press("board", DialBoard);
-    NetworkHourTick();
-    Press("Internet, refused", DialInternet);
-    Press("receive", ReceiveFromBoard, 0.5F);
-    Press("receive, nothing", ReceiveFromBoard);
-    Press("send, two and a half", SendToBoard, 0.25F);
-    Press("send, seven and a half", SendToBoard, 0.75F);
-    Press("board", DialBoard);
-    DialInternet();
-    NetworkHourTick();
-    Meanwhile(NetworkHourTick); // one that passes while hanging up
-    Press("Internet, after two more", DialInternet);
-    for (const std::string& site :
-         Grouped(-1, 3, [](int i) { return std::string(SiteAddress(i)); })) {
-        lines.push_back("site " + site);
-    }
-    ExpectKept("network.txt", lines);
-}
-
-TEST_F(Lines, WhateverHappensInAPauseLeavesLinesAndButtonsRight)
-{
-    const auto nothing = [] {};
-    const auto die = [] { SetHealth(-50); };
-    // clang-format off
-    struct {
-        void (*dial)();
-        void (*outer)();
-        void (*inner)();
-        int size;
-        const char* shown;
-    } const rows[]{
-        {nothing, DialInternet, DialBoard, 0, "Connected/Connected 1 5 6"},
-        {DialBoard, ReceiveFromBoard, ReceiveFromBoard, 7, "Disconnected/Connected 1 5 6"},
-        {DialInternet, DownloadSoftware, DownloadAntivirus, 7, "Connected/Disconnected 1 5 6"},
-        {DialInternet, DownloadAntivirus, DownloadSoftware, 7, "Connected/Disconnected 1 5 6"},
-        {DialInternet, DownloadAntivirus, DialInternet, 3, "Disconnected/Disconnected 1 5 6"},
-        {nothing, DialInternet, die, 0, "Disconnected/Disconnected 1 5 6"},
-        {nothing, DialBoard, die, 0, "Disconnected/Disconnected 1 5 6"},
-        {DialInternet, DialInternet, die, 0, "Connected/Disconnected 1 5 6"},
-        {DialInternet, DownloadSoftware, die, 0, "Connected/Disconnected 1 5 6"},
-        {DialBoard, ReceiveFromBoard, die, 0, "Disconnected/Connected 1 5 6"},
-    };
-    // clang-format on
-    for (const auto& row : rows) {
-        Begin();
-        Fresh(row.dial);
-        NextLifeIs("Пётр");
-        dice.values = {DrawOf(3, 10), DrawOf(4, 10)};
-        Meanwhile([&] {
-            const std::string running = Shown();
-            GoOnline(); // keeps the status of what runs
-            EXPECT_EQ(Shown(), running);
-            NetworkHourTick();
-            EnterRules(row.inner);
-        });
-        EnterRules(row.outer);
-        EXPECT_EQ(Shown(), row.shown);
-        EXPECT_EQ(GameState.SoftSize, row.size);
-        EXPECT_EQ(GameState.Money, row.inner == DialInternet ? 14 : 15);
-        EXPECT_EQ(GameState.PlayerName, row.inner == +die ? "Пётр" : "Иван");
+    // "software 7 death 0": draws 7 Mb, and in the first pause death comes.
+    ExpectEach("network.txt", [this](const std::string& line) {
+        std::istringstream words(line);
+        std::string button, inPause;
+        double draw = 0, drawInPause = 0;
+        words >> button >> draw >> inPause >> drawInPause;
+        dice.values = {static_cast<float>(draw / 10), static_cast<float>(drawInPause / 10)};
+        player.names = {NewPlayer{"Пётр", 1}};
+        player.duringWait.clear();
+        if (!inPause.empty()) {
+            Meanwhile([&] {
+                const std::string running = Shown();
+                GoOnline();
+                EXPECT_EQ(Shown(), running) << "keeps the status of what runs";
+                NetworkHourTick();
+                EnterRules(buttons.at(inPause));
+            });
+        }
+        const std::string told = Press(buttons.at(button));
         GoOnline();
         EXPECT_EQ(Network().inetStatus.ends_with(" Connected"), Network().InetConnected == True);
-    }
+        if (inPause == "death") {
+            ExpectFreshLife("Пётр");
+        }
+        return told.substr(0, told.find(", Money +0")); // the rest is the new life's
+    });
+    EXPECT_EQ(Grouped(-1, 3, [](int i) { return std::string(SiteAddress(i)); }),
+              (Texts{"-1, 3", "0: www.virusolov.example", "1: www.svezhiy-soft.example",
+                     "2: www.anekdoty.example"}));
 }
 
 TEST_F(Lines, WhatIsBeyondItsWidthIsSwallowedAndTheButtonWorksAgain)

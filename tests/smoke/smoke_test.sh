@@ -29,14 +29,8 @@ in_front() {
 }
 expect() { wait_until in_front "$1" || fail "\"$1\" did not come to the front"; }
 # Presses a key until it has opened a window: a surprise may swallow one.
-press_for() {
-    local limit=$((PATIENCE / 3)) try
-    for try in 1 2 3; do
-        xdotool key "$1"
-        wait_until in_front "$2" && return
-    done
-    fail "$1 did not open \"$2\" at the $try. try"
-}
+pressed() { xdotool key "$1" && limit=$((PATIENCE / 3)) wait_until in_front "$2"; }
+press_for() { pressed "$@" || pressed "$@" || pressed "$@" || fail "$1 did not open \"$2\""; }
 # Closes what is in front, however many windows that may be.
 back_to_main() { in_front "$MAIN" || { xdotool key Escape; sleep 0.1; in_front "$MAIN"; }; }
 leave() { wait_until back_to_main || fail "\"$1\" did not close"; }

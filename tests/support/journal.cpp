@@ -9,10 +9,10 @@
 #include <map>
 #include <sstream>
 
+#include "system/text.h"
+
 namespace torvenhall::test
 {
-
-using Game = Game;
 
 // clang-format off
 static const std::map<std::string, Int16 Game::*> Fields{
@@ -29,24 +29,20 @@ static const std::map<std::string, Int16 Game::*> Fields{
     {"Happy", &Game::Happy}, {"Health", &Game::Health}, {"EatLevel", &Game::EatLevel}};
 // clang-format on
 
-void ExpectKept(const std::string& file, const Texts& found)
+void ExpectKept(const std::string& file, Texts found)
 {
     const std::string path = TORVENHALL_TEST_DATA + file;
     if (std::getenv("TORVENHALL_KEEP") != nullptr) {
-        std::ofstream file(path);
-        std::ranges::copy(found, std::ostream_iterator<std::string>(file, "\n"));
+        std::ofstream kept(path);
+        std::ranges::copy(found, std::ostream_iterator<std::string>(kept, "\n"));
         return;
     }
-    std::ifstream kept(path);
-    std::string last = "the beginning", expected;
-    for (const std::string& line : found) {
-        if (!std::getline(kept, expected) || line != expected) {
-            FAIL() << file << ", after " << last << "\nexpected: " << expected
-                   << "\nfound:    " << line;
-        }
-        last = line;
+    found.emplace_back(); // what follows the last line's end
+    const Texts kept = Split(ReadWholeFile(path), "\n");
+    for (std::size_t i = 0; i < std::min(kept.size(), found.size()); ++i) {
+        ASSERT_EQ(kept[i], found[i]) << file << ", line " << i + 1;
     }
-    EXPECT_FALSE(std::getline(kept, expected)) << file << " expects after all: " << expected;
+    EXPECT_EQ(kept.size(), found.size()) << file << " differs in its end";
 }
 
 void ExpectEach(const std::string& file,
@@ -60,18 +56,6 @@ void ExpectEach(const std::string& file,
     }
     EXPECT_FALSE(found.empty());
     ExpectKept(file, found);
-}
-
-Texts InRows(const Texts& parts)
-{
-    constexpr std::size_t most = 6;
-    Texts rows;
-    for (std::size_t i = 0; i < parts.size(); i += most) {
-        const auto row = parts.begin() + static_cast<std::ptrdiff_t>(i);
-        rows.push_back(Joined(
-            Texts(row, row + static_cast<std::ptrdiff_t>(std::min(most, parts.size() - i)))));
-    }
-    return rows;
 }
 
 Texts Grouped(int first, int last, const std::function<std::string(int)>& outcome)

@@ -8,17 +8,14 @@ namespace torvenhall::test
 
 // What the rules did, as lines that read like the game's own tables.
 
-/// Compares the lines with the kept file of that name in tests/data and names
+/// Compares the lines with the kept file of that name in tests/data and shows
 /// the first that differs. Where TORVENHALL_KEEP is set in the environment,
 /// keeps the lines found instead.
-void ExpectKept(const std::string& file, const Texts& found);
+void ExpectKept(const std::string& file, Texts found);
 
 /// The same for a file of lines "what is given: its outcome".
 void ExpectEach(const std::string& file,
                 const std::function<std::string(const std::string&)>& outcome);
-
-/// Several in each line.
-Texts InRows(const Texts& parts);
 
 /// "-1..3, 5: outcome" for every different outcome from first to last.
 Texts Grouped(int first, int last, const std::function<std::string(int)>& outcome);

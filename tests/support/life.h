@@ -1,6 +1,8 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
+#include <sstream>
 
 #include "core/basGame.h"
 #include "core/unwinding.h"
@@ -102,6 +104,20 @@ protected:
         GameState = given;
         Assign(fields);
         lines.push_back(Joined({fields, Outcome(body)}, ": "));
+    }
+    /// The same for the lines of a file, "verb 21 Married=-1: its outcome".
+    void TryEach(const std::string& file,
+                 const std::map<std::string, std::function<void(int)>>& verbs)
+    {
+        ExpectEach(file, [&](const std::string& line) {
+            std::istringstream words(line);
+            std::string verb, fields;
+            int number = 0;
+            std::getline(words >> verb >> number, fields);
+            GameState = given;
+            Assign(fields);
+            return Outcome([&] { verbs.at(verb)(number); });
+        });
     }
     /// The same for each number, where equal outcomes share a line.
     void Walk(const std::string& what, int first, int last, const std::function<void(int)>& body)

@@ -92,11 +92,7 @@ void Screen::Settle()
 
 bool Screen::Until(const std::function<bool()>& holds)
 {
-    const QDeadlineTimer patience(10000);
-    for (Settle(); !holds() && !patience.hasExpired(); Settle()) {
-        QTest::qSleep(1);
-    }
-    return !patience.hasExpired();
+    return QTest::qWaitFor([&holds] { return Settle(), holds(); }, 10000);
 }
 
 QMultiMap<QString, QWidget*> Screen::Visible()
@@ -192,13 +188,15 @@ void Play::BeginQuarrel()
     EXPECT_TRUE(Until(Typing));
 }
 
-int Play::RunInEventLoop(const std::function<void()>& body)
+void Play::ExpectEnd(const std::function<void()>& body)
 {
     QTimer::singleShot(0, qApp, body);
     QTimer patience;
     patience.callOnTimeout([] { QCoreApplication::exit(-1); });
     patience.start(10000);
-    return QApplication::exec();
+    EXPECT_EQ(QApplication::exec(), 0);
+    frontEnd.reset();
+    EXPECT_TRUE(OpenWindows().isEmpty() && SavedFiles().isEmpty());
 }
 
 void Play::ForEachWindow(const std::function<void(QWidget&)>& look)

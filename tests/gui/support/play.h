@@ -105,9 +105,9 @@ struct Play : ::testing::Test, Screen {
     /// That tick: an angry wife's message of 85 characters is being typed.
     void BeginQuarrel();
     static QString Today() { return Text(DateText(GameState.GameDate)); }
-    /// Runs a body from the application's event loop; its exit code, or -1
-    /// after ten seconds.
-    static int RunInEventLoop(const std::function<void()>& body);
+    /// Runs a body from the application's event loop, which it must end within
+    /// ten seconds, nothing left on screen and nothing saved.
+    void ExpectEnd(const std::function<void()>& body);
     QString Folder() const { return folder.path() + '/'; }
     QStringList SavedFiles() { return QDir(Folder() + "SAVE").entryList(QDir::Files); }
     /// Opens every window, dialog and box of the game in turn, the main window
