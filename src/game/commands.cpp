@@ -7,9 +7,7 @@
 #include "core/running.h"
 #include "core/unwinding.h"
 #include "core/waits.h"
-#include "network/network.h"
 #include "savegame/savegame.h"
-#include "system/basSystem.h"
 
 namespace torvenhall
 {
@@ -17,7 +15,6 @@ namespace torvenhall
 void GoOnline()
 {
     if (GameState.HardComm >= 1 && GameState.SoftBrowser >= 1) {
-        SayTrueStatus();
         Windows().OpenWindow(window::frmNetwork);
     } else {
         // The message names a system that is not asked for, on purpose.

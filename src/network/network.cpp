@@ -207,15 +207,6 @@ void TrafficEvent()
     }
 }
 
-void SayTrueStatus()
-{
-    for (const Line* line : {&Internet, &Board}) {
-        if (line->waits == 0) {
-            SayTruth(*line);
-        }
-    }
-}
-
 void DialInternet()
 {
     RunSequence(network->calls, Internet, &Internet.dialEnabled, [] {

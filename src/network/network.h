@@ -32,10 +32,6 @@ void NetworkHourTick();
 /// The same; error 6 when the hours overflow.
 void TrafficEvent();
 
-/// Makes the status lines tell the lines' state where nothing runs; for a
-/// window that opens.
-void SayTrueStatus();
-
 // The window's buttons. Each runs its status texts and pauses to the end,
 // whether the window stays open or not, and returns then. A line that is
 // busy with the other kind of call is refused silently, and errors are

@@ -70,6 +70,17 @@ TEST_F(Files, GivenAFailingFlushOrAFullDiskTheErrorIsToldAndTheOldFileStays)
     EXPECT_EQ(Replacing("new"), "57 new 1");
 }
 
+TEST_F(Files, WhatAKilledSaveLeftIsSweptUnlessItMayStillBeWritten)
+{
+    for (const char* name : {".torvenhall-1-0", ".torvenhall-2-0", "b.QVS", "torvenhall-3"}) {
+        ReplaceFile(folder + name, "");
+        const std::chrono::seconds age{std::string_view(name) == ".torvenhall-2-0" ? 40 : 90};
+        fs::last_write_time(folder + name, fs::file_time_type::clock::now() - age);
+    }
+    DeleteStrays(folder);
+    EXPECT_EQ(FileNames(folder), (Texts{".torvenhall-2-0", "b.QVS", "torvenhall-3"}));
+}
+
 TEST_F(Files, WhatThePlayerProtectedIsNotReplaced)
 {
     constexpr uid_t somebody = 65534;
