@@ -34,12 +34,16 @@ protected:
             told += (told.empty() ? "" : ", " + stood + " s | ") + Shown();
             began = player.seconds;
         };
+        std::string seen = Shown(); // by the window, when it was told last
+        const auto outer = std::exchange(player.atReload, [&] { seen = Shown(); });
         player.atEachWait = [&] {
             show();
-            EXPECT_EQ(player.journal.back(), "reload frmNetwork") << "the window shows it";
+            EXPECT_EQ(seen, Shown());
         };
         const std::string outcome = Outcome([=] { EnterRules(button); });
         show();
+        EXPECT_TRUE(told.find(" s |") == std::string::npos || seen == Shown()) << told;
+        player.atReload = outer;
         player.atEachWait = [] {};
         const std::size_t label = outcome.find("lbl"), money = outcome.find("Money");
         return Joined({told, outcome.substr(std::min({label, money, outcome.size()}))});

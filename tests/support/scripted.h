@@ -91,13 +91,17 @@ public:
     // What happens while the next box, dialog or virus window is open, during
     // the next wait, and at the beginning of each wait.
     std::deque<std::function<void()>> whileOpen, duringWait;
-    std::function<void()> atEachWait = [] {};
+    std::function<void()> atEachWait = [] {}, atReload = [] {};
 
     double Seconds() const override { return seconds; }
     void Run(const std::function<void()>& routine) override { routine(); }
     void EndPauses() override {}
     void CloseWindow(std::string_view window) override { Note("close", window); }
-    void ReloadWindow(std::string_view window) override { NoteIfOpen("reload", window); }
+    void ReloadWindow(std::string_view window) override
+    {
+        NoteIfOpen("reload", window);
+        atReload();
+    }
     void ShowMainWindow() override { Note("show main window"); }
     void SetMainTitle(std::string_view text) override { Note("title", text); }
     void EnableTimer(bool enabled) override { Note(enabled ? "timer on" : "timer off"); }
