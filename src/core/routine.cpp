@@ -17,14 +17,9 @@ Entry CurrentEntry()
     return *current;
 }
 
-Routine::Routine(Entry entry) : outer(*current)
+void BeginRoutine(Entry entry)
 {
     *current = entry;
-}
-
-Routine::~Routine()
-{
-    *current = outer;
 }
 
 Waiting::Waiting() : own(*current) {}

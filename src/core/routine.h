@@ -10,18 +10,8 @@ enum class Entry : unsigned char { Handler, Tick };
 /// The door of the routine that runs now.
 Entry CurrentEntry();
 
-/// A routine from its door to its end.
-class Routine
-{
-public:
-    explicit Routine(Entry entry);
-    ~Routine();
-    Routine(const Routine&) = delete;
-    Routine& operator=(const Routine&) = delete;
-
-private:
-    Entry outer;
-};
+/// A routine begins that came in by this door.
+void BeginRoutine(Entry entry);
 
 /// The time that a routine waits. Others run meanwhile, and need not end
 /// before it goes on.

@@ -29,14 +29,16 @@ RuntimeError ErrorOf(Body&& body)
 }
 
 /// The trap of a rules procedure: an error abandons the body and is reported;
-/// effects already applied stay and the caller goes on.
+/// effects already applied stay and the caller goes on. True when the body ran
+/// to its end.
 template <class Body>
-void Trapped(Body&& body)
+bool Trapped(Body&& body)
 {
     const RuntimeError caught = ErrorOf(std::forward<Body>(body));
     if (caught.number != 0) {
         ReportError(caught.number, caught.path);
     }
+    return caught.number == 0;
 }
 
 /// The trap of the clock and what it drives: an error abandons the body and

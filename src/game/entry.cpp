@@ -38,7 +38,7 @@ void Enter(Entry entry, const std::function<void()>& body)
     }
     const Waiting outer; // a routine that causes another one goes on as itself
     Windows().Run([entry, body] {
-        const Routine routine(entry);
+        BeginRoutine(entry);
         if (LifeEndsIn(body)) {
             LifeEndsIn(NewGame);
         }

@@ -91,8 +91,8 @@ void EmptyTheComputer()
 
 void Main()
 {
-    DeleteStraySaves();
     NewGame();
+    DeleteStraySaves(); // not before the player sees anything
 }
 
 void NewGame()

@@ -8,7 +8,6 @@
 #include "core/draw.h"
 #include "core/remembered.h"
 #include "core/traps.h"
-#include "core/unwinding.h"
 #include "core/waits.h"
 #include "equipment/basEquipment.h"
 #include "system/convert.h"
@@ -108,7 +107,7 @@ public:
         if (!ended && worked) {
             *button = true;
         }
-        if (!ended && !ProgramHasEnded()) {
+        if (!ended) {
             TrappedSilently([this] { SayTruth(line); });
         }
     }

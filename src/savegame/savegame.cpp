@@ -161,14 +161,9 @@ void SaveGame()
             }
             name = *entered;
             trouble = FileNameTrouble(FileOf(name));
-            if (!trouble.empty()) {
-                continue;
-            }
-            const RuntimeError failure = ErrorOf([&] { WriteGame(name); });
-            if (failure.number == 0) {
+            if (trouble.empty() && Trapped([&] { WriteGame(name); })) {
                 return;
             }
-            ReportError(failure.number, failure.path);
         }
     });
 }

@@ -165,10 +165,11 @@ void DeleteStrays(const std::string& directory)
     constexpr std::chrono::minutes longestSave{1};
     for (const std::string& name : FileNames(directory)) {
         const fs::path path = NativePath(directory) / NativePath(name);
-        std::error_code ignored;
-        if (name.starts_with(StrayPrefix) &&
-            fs::file_time_type::clock::now() - fs::last_write_time(path, ignored) > longestSave) {
-            fs::remove(path, ignored);
+        std::error_code failure;
+        const fs::file_time_type written = fs::last_write_time(path, failure);
+        if (!failure && name.starts_with(StrayPrefix) &&
+            fs::file_time_type::clock::now() - written > longestSave) {
+            fs::remove(path, failure);
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
@@ -211,7 +212,11 @@ void QtFrontEnd::EnableTimer(bool enabled)
 
 std::string QtFrontEnd::FindProgram(std::string_view name)
 {
-    return Utf8(QStandardPaths::findExecutable(Text(name)));
+    // The game changes the current directory, so a relative folder of the
+    // search path would lead anywhere.
+    QStringList folders = qEnvironmentVariable("PATH").split(QDir::listSeparator());
+    folders.removeIf([](const QString& folder) { return QDir::isRelativePath(folder); });
+    return folders.empty() ? "" : Utf8(QStandardPaths::findExecutable(Text(name), folders));
 }
 
 bool QtFrontEnd::StartProgram(const std::string& program, const std::vector<std::string>& arguments)

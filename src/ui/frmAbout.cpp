@@ -1,5 +1,6 @@
 #include "ui/frmAbout.h"
 
+#include "game/entry.h"
 #include "game/programs.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/pictures.h"
@@ -43,7 +44,7 @@ frmAbout::frmAbout(QWidget* parent) : GameWindow("frmAbout", 460, 346, parent)
     GameButton* system = AddButton("Command2", "О системе...", {210, 302, 122, 30});
     system->SetGlyph(Glyph::Screen);
     GameButton* accept = AddButton("Command1", "OK", {342, 302, 104, 30});
-    connect(system, &QAbstractButton::clicked, this, [] { Act(StartSysInfo); });
+    connect(system, &QAbstractButton::clicked, this, [] { EnterRules(StartSysInfo); });
     connect(accept, &QAbstractButton::clicked, this, &frmAbout::reject);
     accept->setFocus();
 }

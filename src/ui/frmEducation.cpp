@@ -1,6 +1,7 @@
 #include "ui/frmEducation.h"
 
 #include "activities/education.h"
+#include "game/entry.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
 
@@ -47,7 +48,7 @@ GameButton* frmEducation::AddToggle(const char* name, const QString& caption, do
                                     void (*toggle)())
 {
     GameButton* button = AddButton(name, caption, {26, top + ButtonTop, PanelWidth - 24, 27});
-    connect(button, &QAbstractButton::clicked, this, [toggle] { Act(toggle); });
+    connect(button, &QAbstractButton::clicked, this, [toggle] { EnterRules(toggle); });
     return button;
 }
 

@@ -5,6 +5,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 
+#include "game/entry.h"
 #include "resources/basLangMGR.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
@@ -45,7 +46,7 @@ frmLang::frmLang(QWidget* parent)
 void frmLang::ShowLanguage(int row)
 {
     // A row without a file has been reported; its texts are then not shown.
-    Act([row, box = QPointer(info)] {
+    EnterRules([row, box = QPointer(info)] {
         SelectLanguage(row + 1);
         if (box) {
             box->setPlainText("Description: " + Text(LangDescription) +

@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include "core/traps.h"
+#include "game/entry.h"
 #include "network/network.h"
 #include "resources/anecdotes.h"
 #include "ui/widgets/metrics.h"
@@ -54,7 +55,7 @@ GameButton* frmNetwork::AddCommand(const char* name, const QString& caption, con
     button->setParent(panel);
     button->setGeometry(PxRect(place));
     if (command) {
-        connect(button, &QAbstractButton::clicked, this, [command] { Act(command); });
+        connect(button, &QAbstractButton::clicked, this, [command] { EnterRules(command); });
     }
     return button;
 }
@@ -214,7 +215,7 @@ void frmNetwork::ShowSite(int location)
 void frmNetwork::ShowAnecdote()
 {
     // Any error leaves the previous text.
-    Act([box = QPointer(anecdote)] {
+    EnterRules([box = QPointer(anecdote)] {
         TrappedSilently([box] {
             const QString told = Text(GetAnecdote());
             if (box) {

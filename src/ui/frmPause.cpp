@@ -1,6 +1,7 @@
 #include "ui/frmPause.h"
 
 #include "game/clock.h"
+#include "game/entry.h"
 #include "savegame/savegame.h"
 #include "ui/widgets/pictures.h"
 
@@ -20,7 +21,7 @@ frmPause::frmPause(QWidget* parent) : GameWindow("frmPause", 320, 204, parent)
     GameButton* minimise = AddButton("Command3", "Свернуть игру", {50, 146, 220, 30});
     minimise->SetGlyph(Glyph::Minimise);
     connect(resume, &QAbstractButton::clicked, this, &frmPause::reject);
-    connect(save, &QAbstractButton::clicked, this, [] { Act(SaveGame); });
+    connect(save, &QAbstractButton::clicked, this, [] { EnterRules(SaveGame); });
     connect(minimise, &QAbstractButton::clicked, this, [this] {
         if (QWidget* main = parentWidget()) {
             main->showMinimized();
@@ -30,7 +31,7 @@ frmPause::frmPause(QWidget* parent) : GameWindow("frmPause", 320, 204, parent)
 
 void frmPause::reject()
 {
-    Act(ResumeGame);
+    EnterRules(ResumeGame);
 }
 
 } // namespace torvenhall

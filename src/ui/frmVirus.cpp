@@ -4,6 +4,7 @@
 #include <QScopeGuard>
 
 #include "activities/virus.h"
+#include "game/entry.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/pictures.h"
 #include "ui/widgets/theme.h"
@@ -47,7 +48,7 @@ frmVirus::frmVirus(QWidget* parent) : GameWindow("frmVirus", Width, Height, pare
 void frmVirus::Answer(void (*deed)())
 {
     // Pressed once: while the outcome's box is open the window waits behind it.
-    Act([deed, window = QPointer<QDialog>(this)] {
+    EnterRules([deed, window = QPointer<QDialog>(this)] {
         // However it ends. What waits for the window goes on after this routine.
         const auto close = qScopeGuard([&] {
             if (window) {

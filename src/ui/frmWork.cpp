@@ -1,6 +1,7 @@
 #include "ui/frmWork.h"
 
 #include "activities/work.h"
+#include "game/entry.h"
 #include "ui/widgets/qtext.h"
 
 namespace torvenhall
@@ -18,7 +19,7 @@ frmWork::frmWork(QWidget* parent) : ActivityWindow({"frmWork", "Работа", "
     AddChoices({"Смена работы", "Label1", 440, 2}, captions);
     for (int i = 0; i < JobButtons; ++i) {
         connect(&Choice(static_cast<std::size_t>(i)), &QAbstractButton::clicked, this,
-                [i] { Act([i] { ApplyForJob(i); }); });
+                [i] { EnterRules([i] { ApplyForJob(i); }); });
     }
     AddBack("Command8");
 }

@@ -125,9 +125,6 @@ public:
     }
     Answer ShowMessageBox(const MessageBox& box) override
     {
-        if (programEnded) {
-            return Answer::No;
-        }
         boxes.push_back(BoxLine(box));
         std::deque<Answer> ok{Answer::Ok};
         return Ask(box.buttons == Buttons::YesNo ? answers : ok, boxes.back());

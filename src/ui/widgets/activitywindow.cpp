@@ -8,9 +8,7 @@ namespace torvenhall
 
 namespace
 {
-constexpr double Margin = 14;
 constexpr double StripHeight = 30;
-constexpr double BackWidth = 104;
 constexpr double ChoiceHeight = 27;
 constexpr double ChoiceGap = 4;
 constexpr double PanelPadding = 10;

@@ -1,6 +1,7 @@
 #include "ui/widgets/equipmentshop.h"
 
 #include "core/GameState.h"
+#include "game/entry.h"
 #include "ui/widgets/qtext.h"
 
 namespace torvenhall
@@ -18,7 +19,7 @@ EquipmentShop::EquipmentShop(const Plan& plan, const Goods& newGoods, QWidget* p
     AddChoices({{}, {}, goods.width, 1}, captions);
     for (int category = 0; category < goods.categories; ++category) {
         connect(&Choice(static_cast<std::size_t>(category)), &QAbstractButton::clicked, this,
-                [this, category] { Act([buy = goods.buy, category] { buy(category); }); });
+                [this, category] { EnterRules([buy = goods.buy, category] { buy(category); }); });
     }
     AddBack("Command8");
 }

@@ -2,20 +2,12 @@
 
 #include <QCloseEvent>
 
-#include "game/entry.h"
 #include "ui/widgets/helpkey.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
 {
-
-namespace
-{
-constexpr double BackWidth = 104;
-constexpr double BackHeight = 30;
-constexpr double Margin = 14;
-} // namespace
 
 GameWindow::GameWindow(const QString& name, double width, double height, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -26,11 +18,6 @@ GameWindow::GameWindow(const QString& name, double width, double height, QWidget
     setFixedSize(scene->size());
     setSizeGripEnabled(false);
     OpenManualByKey(this);
-}
-
-void GameWindow::Act(const std::function<void()>& call)
-{
-    EnterRules(call);
 }
 
 GameLabel* GameWindow::AddLabel(const QString& name, const QString& text, const QRectF& place,

@@ -31,13 +31,14 @@ public:
     void SetUsable(QWidget& control, bool usable);
 
 protected:
+    // Where "Назад" stands, in units.
+    static constexpr double Margin = 14;
+    static constexpr double BackWidth = 104;
+    static constexpr double BackHeight = 30;
+
     /// Whether the window takes Esc and its close box; what they mean is
     /// `reject`.
     virtual bool Closable() const { return true; }
-    /// Enters the rules with one call of theirs. The call may wait and outlive
-    /// the window, so it must not hold on to it.
-    static void Act(const std::function<void()>& call);
-
     Scene& Surface() { return *scene; }
     GameLabel* AddLabel(const QString& name, const QString& text, const QRectF& place,
                         const QFont& font);

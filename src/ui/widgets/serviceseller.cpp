@@ -1,5 +1,6 @@
 #include "ui/widgets/serviceseller.h"
 
+#include "game/entry.h"
 #include "ui/widgets/qtext.h"
 
 namespace torvenhall
@@ -16,7 +17,7 @@ ServiceSeller::ServiceSeller(const char* name, const ServiceWindow& newTable, QW
     AddChoices({Text(table.group), "Label1", 304, 1}, captions);
     for (std::size_t i = 0; i < table.services.size(); ++i) {
         connect(&Choice(i), &QAbstractButton::clicked, this,
-                [this, i] { Act([&sold = table, i] { BuyService(sold, i); }); });
+                [this, i] { EnterRules([&sold = table, i] { BuyService(sold, i); }); });
     }
     AddBack("Command8");
 }
