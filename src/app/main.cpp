@@ -43,6 +43,14 @@ Options ReadOptions(const QCoreApplication& application)
             folder.isEmpty() ? folder : QDir::current().absoluteFilePath(folder)};
 }
 
+/// The player's folder for this program's data. A relative one is to be
+/// ignored, by the desktops' convention; the game changes the current directory.
+QString UserDataFolder()
+{
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return (QDir::isAbsolutePath(data) ? data : QDir::homePath() + "/.local/share") + "/torvenhall";
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -55,8 +63,7 @@ int main(int argc, char** argv)
     SetDesktopFontPoints(options.fontPoints);
     ApplyTheme(application);
     FindDirectories(Utf8(QCoreApplication::applicationDirPath()), "../share/torvenhall",
-                    Utf8(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                         "/torvenhall"));
+                    Utf8(UserDataFolder()));
 
     const bool touring = !options.tourFolder.isEmpty();
     constexpr double tourPace = 40; // its waits are not to be sat through
