@@ -48,6 +48,7 @@ void BeginDay()
     const Date tomorrow{std::chrono::sys_days{today} + std::chrono::days{1}};
     // Minutes carried past midnight are dropped on purpose.
     GameState.GameTime = {};
+    ShowTime(); // the first event may be a box, under which nothing ticks
     DailyEvents();
     if (tomorrow.month() != today.month()) {
         LifeEvents(True);

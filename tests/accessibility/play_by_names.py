@@ -38,15 +38,15 @@ class Player:
         self.game.setCacheMask(Atspi.Cache.NONE)  # every look asks the program itself
 
     def find_window(self, title):
-        """The window of that title; closes the boxes that life brings meanwhile."""
-        for window in [self.game.getChildAtIndex(i) for i in range(self.game.childCount)]:
-            if window and window.getState().contains(pyatspi.STATE_SHOWING):
-                if window.name == title:
-                    return window
-                if window.getRoleName() == "alert":
-                    print(f"life brought a box: {window.name}")
-                    self.press("OK", window.name)
-        return None
+        """The window of that title, after the boxes that life brought are closed."""
+        showing = [each for each in (self.game.getChildAtIndex(i)
+                                     for i in range(self.game.childCount))
+                   if each and each.getState().contains(pyatspi.STATE_SHOWING)]
+        for box in showing:
+            if box.name != title and box.getRoleName() == "alert":
+                print(f"life brought a box: {box.name}")
+                self.press("OK", box.name)
+        return next((each for each in showing if each.name == title), None)
 
     def window(self, title):
         """Waits for a window. The first time its controls are checked for names."""
