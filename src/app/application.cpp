@@ -1,12 +1,17 @@
 #include "app/application.h"
 
 #include <QIcon>
+#include <QSocketNotifier>
 
+#include <chrono>
 #include <exception>
 
 #include "core/traps.h"
 #include "core/unwinding.h"
+#include "game/commands.h"
 #include "game/entry.h"
+#include "savegame/recovery.h"
+#include "system/basSystem.h"
 #include "ui/widgets/pictures.h"
 
 namespace torvenhall
@@ -54,6 +59,33 @@ bool Application::notify(QObject* receiver, QEvent* event)
         EnterRules([number] { ReportError(number); });
     }
     return true;
+}
+
+void Application::KeepLives()
+{
+    const auto keep = [] { EnterRules(KeepLife); };
+    connect(&keeping, &QTimer::timeout, this, keep);
+    keeping.start(std::chrono::minutes(1));
+    connect(this, &QGuiApplication::commitDataRequest, this, [this, keep] {
+        sessionEnds = true;
+        keep();
+    });
+    if (const int requests = WatchEndRequests(); requests >= 0) {
+        auto* notifier = new QSocketNotifier(requests, QSocketNotifier::Read, this);
+        connect(notifier, &QSocketNotifier::activated, this, [notifier] {
+            notifier->setEnabled(false);
+            EnterRules(EndFromOutside);
+        });
+    }
+}
+
+bool Application::event(QEvent* event)
+{
+    if (event->type() == QEvent::Quit && sessionEnds) {
+        EnterRules(EndFromOutside);
+        return true;
+    }
+    return QApplication::event(event);
 }
 
 } // namespace torvenhall

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QTimer>
 
 namespace torvenhall
 {
@@ -16,6 +17,18 @@ public:
     /// The last net: an exception that reaches the event loop is reported and
     /// the game goes on, where the toolkit would abort.
     bool notify(QObject* receiver, QEvent* event) override;
+
+    /// From now on the life in hand is kept, once a minute and when the desktop
+    /// or the system ends the program.
+    void KeepLives();
+
+protected:
+    /// At a logout nobody is asked anything.
+    bool event(QEvent* event) override;
+
+private:
+    QTimer keeping;
+    bool sessionEnds = false;
 };
 
 } // namespace torvenhall

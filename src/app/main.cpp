@@ -75,6 +75,7 @@ int main(int argc, char** argv)
         if (touring) {
             QCoreApplication::exit(TakeTour(frontEnd, options.tourFolder));
         } else {
+            application.KeepLives();
             EnterRules(Main);
         }
     });

@@ -7,6 +7,7 @@
 #include "core/running.h"
 #include "core/unwinding.h"
 #include "core/waits.h"
+#include "savegame/recovery.h"
 #include "savegame/savegame.h"
 
 namespace torvenhall
@@ -29,10 +30,19 @@ void CloseProgram()
     // new life's name dialog.
     const Running closing(Running::What::Closing);
     const StandStill still;
-    if (MsgBox("Сохранить игру сейчас???", "Вопрос", Icon::Question, Buttons::YesNo) ==
-        Answer::Yes) {
-        SaveGame();
+    const bool mustSave =
+        MsgBox("Сохранить игру сейчас???", "Вопрос", Icon::Question, Buttons::YesNo) == Answer::Yes;
+    if (mustSave && !SaveGame()) {
+        KeepLife(); // what was to be saved is not lost because saving failed
+    } else {
+        LetLifeGo();
     }
+    EndProgram();
+}
+
+void EndFromOutside()
+{
+    KeepLife();
     EndProgram();
 }
 

@@ -15,7 +15,10 @@
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
 #include "events/family.h"
+#include "game/clock.h"
+#include "savegame/recovery.h"
 #include "savegame/savegame.h"
+#include "system/convert.h"
 #include "system/text.h"
 
 namespace torvenhall
@@ -31,20 +34,23 @@ bool IsValidName(std::string_view name)
     return !name.empty() && !ContainsIgnoringCase(name, NamePlaceholder);
 }
 
-/// Closes every window and asks until the name is valid; cancelling ends the
-/// program.
-NewPlayer AskPlayerName()
+void CloseEverything()
 {
     GameState.Restarting = True;
     Windows().CloseAllWindows();
     ForgetShown();
     SetPaused(false);
     GameState.Restarting = False;
+}
 
+/// Asks until the name is valid; cancelling ends the program.
+NewPlayer AskPlayerName()
+{
     NewPlayer player{std::string(NamePlaceholder), 1};
     for (;;) {
         const std::optional<NewPlayer> entered = AskName(player);
         if (!entered) {
+            KeepLife(); // whoever wants no new life may have wanted the old one
             EndProgram();
         }
         player = *entered;
@@ -87,11 +93,60 @@ void EmptyTheComputer()
     }
 }
 
+constexpr std::string_view BrokenOff = "Прерванная игра";
+
+/// Whether the player wants to go on with it.
+bool Offer(const Game& life)
+{
+    const std::string told = "Прошлая игра оборвалась, но не потеряна: " + life.PlayerName + ", " +
+                             LongDateText(life.GameDate) + " г., $" + Decimal(life.Money) +
+                             ".\n\nПродолжить её? «Нет» начнёт новую жизнь, а эту удалит.";
+    return MsgBox(told, BrokenOff, Icon::Question, Buttons::YesNo) == Answer::Yes;
+}
+
+void GoOnWith(const KeptLife& kept)
+{
+    BeginAnotherLife();
+    CloseEverything();
+    TakeLifeInHand(kept);
+    {
+        const Running newGame(Running::What::NewGame);
+        SetStartingValues({kept.game->PlayerName});
+        EmptyTheComputer();
+    }
+    ContinueGame(kept.lines);
+    Windows().ShowMainWindow();
+    PauseGame();
+}
+
+/// Whether the player goes on with a life that a program had in hand when it
+/// stopped.
+bool GoesOn()
+{
+    for (const KeptLife& kept : FindKeptLives()) {
+        if (!kept.game) {
+            MsgBox("Прошлая игра оборвалась, а её файл повреждён. Он отложен: " +
+                       SetKeptLifeAside(kept),
+                   BrokenOff, Icon::Exclamation);
+        } else if (Offer(*kept.game)) {
+            GoOnWith(kept);
+            return true;
+        } else {
+            DropKeptLife(kept);
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 void Main()
 {
-    NewGame();
+    bool goesOn = false;
+    Trapped([&] { goesOn = GoesOn(); });
+    if (!goesOn) {
+        NewGame();
+    }
     DeleteStraySaves(); // not before the player sees anything
 }
 
@@ -100,7 +155,9 @@ void NewGame()
     Trapped([] {
         BeginAnotherLife();
         const Running newGame(Running::What::NewGame);
+        CloseEverything();
         const NewPlayer player = AskPlayerName();
+        TakeLifeInHand();
         SetStartingValues(player);
         EmptyTheComputer();
         ShowTime();

@@ -174,6 +174,22 @@ SavedGame DecodeGame(std::string_view bytes)
     return lines;
 }
 
+std::optional<Game> WholeGame(const SavedGame& lines)
+{
+    if (lines.size() != SavedLines || lines.front() != ApplicationTitle) {
+        return std::nullopt;
+    }
+    try {
+        Game read;
+        for (std::size_t i = 0; i < SavedLines; ++i) {
+            Rows[i].read(read, lines[i]);
+        }
+        return read;
+    } catch (const RuntimeError&) {
+        return std::nullopt;
+    }
+}
+
 void ApplyLine(std::size_t line, std::string_view text)
 {
     const Row& row = Rows[line - 1];

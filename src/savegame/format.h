@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,10 @@ std::string EncodeGame(const Game& game);
 /// The lines of a file's bytes, UTF-8: at least one. Error 9 for more lines
 /// than a game has.
 SavedGame DecodeGame(std::string_view bytes);
+
+/// The game that the lines tell, if they are all lines of a game of this
+/// release and each of its kind.
+std::optional<Game> WholeGame(const SavedGame& lines);
 
 /// Converts one line, counted from 2, and applies it to the present game,
 /// through the setter where there is one. Error 13 when it is no such value,

@@ -15,7 +15,6 @@
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
 #include "events/family.h"
-#include "savegame/format.h"
 #include "system/basSystem.h"
 #include "system/text.h"
 
@@ -132,14 +131,7 @@ void LoadNamedGame(const std::string& name)
         MsgBox("Некорректная версия", "Загрузка игры", Icon::Critical);
         return;
     }
-    // No tick comes between the lines, nor under the boxes that they cause.
-    BeginAnotherLife();
-    const Running load(Running::What::Load);
-    const RuntimeError failure = ErrorOf([&] { ApplyGame(game); });
-    ShowTime();
-    if (failure.number != 0) {
-        ReportError(failure.number);
-    }
+    ContinueGame(game);
 }
 
 } // namespace
@@ -149,9 +141,10 @@ void DeleteStraySaves()
     TrappedSilently([] { DeleteStrays(SaveFolder()); });
 }
 
-void SaveGame()
+bool SaveGame()
 {
-    Trapped([] {
+    bool written = false;
+    Trapped([&] {
         MakeDirectory(SaveFolder());
         std::string name, trouble;
         for (;;) {
@@ -161,11 +154,13 @@ void SaveGame()
             }
             name = *entered;
             trouble = FileNameTrouble(FileOf(name));
-            if (trouble.empty() && Trapped([&] { WriteGame(name); })) {
+            written = trouble.empty() && Trapped([&] { WriteGame(name); });
+            if (written) {
                 return;
             }
         }
     });
+    return written;
 }
 
 void LoadGame()
@@ -176,6 +171,18 @@ void LoadGame()
             LoadNamedGame(*name);
         }
     });
+}
+
+void ContinueGame(const SavedGame& game)
+{
+    // No tick comes between the lines, nor under the boxes that they cause.
+    BeginAnotherLife();
+    const Running load(Running::What::Load);
+    const RuntimeError failure = ErrorOf([&] { ApplyGame(game); });
+    ShowTime();
+    if (failure.number != 0) {
+        ReportError(failure.number);
+    }
 }
 
 std::vector<std::string> ListSavedGames()

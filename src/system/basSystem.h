@@ -33,6 +33,11 @@ std::string GetWindowsDir();
 /// platform has no such store.
 bool GetKeyValue(const std::string& keyName, const std::string& valueName, std::string& value);
 
+/// From now on a request to end the program (a logout, the terminal closed)
+/// does not end it but makes the returned descriptor readable. A second one
+/// ends it. -1 where the platform has no such thing.
+int WatchEndRequests();
+
 /// Where the shipped files lie (texts, anecdotes), with a trailing separator:
 /// the program's own folder, or the share folder of an installed program.
 const std::string& ProgramDirectory();

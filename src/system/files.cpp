@@ -104,6 +104,15 @@ void DeleteFile(const std::string& path)
     }
 }
 
+void RenameFile(const std::string& path, const std::string& newPath)
+{
+    std::error_code failure;
+    fs::rename(NativePath(path), NativePath(newPath), failure);
+    if (failure) {
+        RaiseFileError(failure, Sought::File, path);
+    }
+}
+
 bool IsDirectory(const std::string& path)
 {
     std::error_code ignored;

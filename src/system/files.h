@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,6 +35,13 @@ void ReplaceFile(const std::string& path, std::string_view bytes);
 void WriteNewFile(const std::string& path, std::string_view bytes);
 
 void DeleteFile(const std::string& path);
+/// Renames a file within its folder, over what has that name.
+void RenameFile(const std::string& path, const std::string& newPath);
+
+/// Makes the file (empty, if it is missing) this program's own for as long as
+/// what is returned lives, or until the process ends, however it does. Nothing
+/// when another program has it or it cannot be made.
+std::shared_ptr<void> LockFile(const std::string& path);
 
 bool IsDirectory(const std::string& path);
 /// Creates one folder; no error if it is there already. Errors 75, 76.

@@ -1,9 +1,11 @@
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <system_error>
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -230,6 +232,15 @@ void WriteNewFile(const std::string& path, std::string_view bytes)
     RaiseUnless(WriteAll(file.Number(), bytes) && file.Close(), path);
 }
 
+std::shared_ptr<void> LockFile(const std::string& path)
+{
+    auto file =
+        std::make_shared<Descriptor>(Open(path, O_RDWR | O_CREAT | O_NOFOLLOW, OrdinaryMode));
+    const bool locked =
+        file->IsOpen() && Retried([&] { return ::flock(file->Number(), LOCK_EX | LOCK_NB); }) == 0;
+    return locked ? file : nullptr;
+}
+
 bool OpensForReading(const std::string& path)
 {
     const Descriptor file = Open(path, O_RDONLY | O_NONBLOCK);
@@ -240,6 +251,33 @@ std::string PlatformNameTrouble(std::string_view name)
 {
     constexpr std::size_t longest = 255;
     return std::string(name.size() <= longest ? "" : NameTooLong);
+}
+
+int WatchEndRequests()
+{
+    static std::array<int, 2> ends{-1, -1};
+    if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+        return -1;
+    }
+    struct sigaction watched {
+    };
+    watched.sa_handler = [](int) {
+        const int before = errno;
+        if (::write(ends[1], "", 1) < 0) {
+            // A full pipe is as readable.
+        }
+        errno = before;
+    };
+    watched.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
+    for (const int request : {SIGTERM, SIGHUP, SIGINT}) {
+        struct sigaction present {
+        };
+        // What the program was started to ignore, it ignores.
+        if (::sigaction(request, nullptr, &present) == 0 && present.sa_handler != SIG_IGN) {
+            ::sigaction(request, &watched, nullptr);
+        }
+    }
+    return ends[0];
 }
 
 std::string GetWindowsDir()

@@ -214,6 +214,14 @@ void WriteNewFile(const std::string& path, std::string_view bytes)
     RaiseUnless(WriteAll(file.Get(), bytes) && file.Close(), path);
 }
 
+std::shared_ptr<void> LockFile(const std::string& path)
+{
+    auto file = std::make_shared<Handle>(
+        ::CreateFileW(Wide(path).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                      FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+    return file->IsOpen() ? file : nullptr;
+}
+
 bool OpensForReading(const std::string& path)
 {
     // Opening a folder fails by itself.
@@ -246,6 +254,11 @@ std::string PlatformNameTrouble(std::string_view name)
         return "Такое название занято системой.";
     }
     return {};
+}
+
+int WatchEndRequests()
+{
+    return -1; // the toolkit is told of a logout by itself
 }
 
 std::string GetWindowsDir()

@@ -154,6 +154,7 @@ void QtFrontEnd::OpenWindow(std::string_view window)
     windows.Opened(shown);
     QObject::connect(shown, &QDialog::finished, shown, [this, shown] { Close(shown); });
     shown->show();
+    shown->activateWindow(); // the main window may have come just before
 }
 
 GameWindow* QtFrontEnd::Find(std::string_view window) const

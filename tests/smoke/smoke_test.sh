@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Plays the real program on a display of its own, by the keyboard alone: a name,
-# every window, two days in real time, a save; then leaves without saving again.
-# The saved game must tell of the third day or later, the exit code be 0.
+# every window, two days in real time, a save; then a logout, after which the
+# game goes on, and an end without saving again. The saved game must tell of the
+# third day or later, the exit codes be 0.
 #
 #   smoke_test.sh PROGRAM
 # Ends with 77, which counts as skipped, where there is no display to play on.
@@ -38,8 +39,15 @@ leave() { wait_until back_to_main || fail "\"$1\" did not close"; }
 # Under the sanitizers a leak ends the program with another exit code.
 export LSAN_OPTIONS=suppressions=$here/lsan.supp:print_suppressions=0
 cd "$work" || exit 1
-"$work/game/torvenhall" >"$work/game.log" 2>&1 &
-game=$!
+start() { "$work/game/torvenhall" >"$work/game.log" 2>&1 & game=$!; }
+gone() { ! kill -0 "$game" 2>/dev/null; }
+ends() {
+    wait_until gone || fail "the program did not end"
+    wait "$game"
+    code=$?
+    [ "$code" -eq 0 ] || fail "the program ended with exit code $code"
+}
+start
 
 # a name, the easiest level, the fastest clock
 expect "Имя игрока"
@@ -74,11 +82,16 @@ limit=120 wait_until third_day || fail "two days did not pass: $(line 5)"
 told="$(line 6), level $(line 31), speed $(line 32)"
 [ "$told" = "Newton, level 2, speed 60" ] || fail "the saved game tells of $told"
 
+press_for ctrl+o "Загрузка игры" # what waits for an answer is no obstacle
+kill -TERM "$game"
+ends
+start
+expect "Прерванная игра"
+xdotool key Return # "Да"
+expect "Игра приостановлена"
+leave "the pause"
 press_for alt+F4 "Вопрос"
 xdotool key Right Return # "Нет"
-gone() { ! kill -0 "$game" 2>/dev/null; }
-wait_until gone || fail "the program did not end"
-wait "$game"
-code=$?
-[ "$code" -eq 0 ] || fail "the program ended with exit code $code"
+ends
+ls "$work"/game/RECOVERY/*.QVS 2>/dev/null && fail "a life is still in hand after its end"
 echo "played until $(line 5) as $told; the program ended with exit code 0"
