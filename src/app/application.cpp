@@ -4,6 +4,7 @@
 #include <QSocketNotifier>
 
 #include <chrono>
+#include <cstdlib>
 #include <exception>
 
 #include "core/traps.h"
@@ -66,6 +67,7 @@ void Application::KeepLives()
     const auto keep = [] { EnterRules(KeepLife); };
     connect(&keeping, &QTimer::timeout, this, keep);
     keeping.start(std::chrono::minutes(1));
+    std::atexit(KeepLife); // a lost display ends the program so
     connect(this, &QGuiApplication::commitDataRequest, this, [this, keep] {
         sessionEnds = true;
         keep();

@@ -115,7 +115,14 @@ void GoOnWith(const KeptLife& kept)
         EmptyTheComputer();
     }
     ContinueGame(kept.lines);
-    Windows().ShowMainWindow();
+    {
+        // Until the desktop has found a place for the window, over which the
+        // pause opens, no tick passes.
+        constexpr double untilItStands = 0.2;
+        const Running newGame(Running::What::NewGame);
+        Windows().ShowMainWindow();
+        Pause(untilItStands);
+    }
     PauseGame();
 }
 

@@ -4,6 +4,7 @@
 #include "core/remembered.h"
 #include "core/running.h"
 #include "core/traps.h"
+#include "core/unwinding.h"
 #include "system/basSystem.h"
 #include "system/convert.h"
 
@@ -122,6 +123,9 @@ void TakeLifeInHand(const KeptLife& from)
 
 void KeepLife()
 {
+    if (ProgramHasEnded()) {
+        return; // it was kept before, or is not to be
+    }
     if (Running::Now(Running::What::LastBox)) {
         LetLifeGo();
     }

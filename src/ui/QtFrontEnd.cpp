@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-#include "core/unwinding.h"
+#include "game/commands.h"
 #include "game/entry.h"
 #include "ui/frmLocGame.h"
 #include "ui/frmMain.h"
@@ -25,7 +25,7 @@ namespace torvenhall
 QtFrontEnd::~QtFrontEnd()
 {
     // However the event loop ended: nothing of the rules may stay on a stack.
-    EnterRules([] { torvenhall::EndProgram(); });
+    EnterRules(EndFromOutside);
     routines.Unwind();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
@@ -154,7 +154,6 @@ void QtFrontEnd::OpenWindow(std::string_view window)
     windows.Opened(shown);
     QObject::connect(shown, &QDialog::finished, shown, [this, shown] { Close(shown); });
     shown->show();
-    shown->activateWindow(); // the main window may have come just before
 }
 
 GameWindow* QtFrontEnd::Find(std::string_view window) const
