@@ -86,6 +86,7 @@ TEST_F(Keyboard, EnterCostsNothingAndEscTheCloseBoxAndTheWayBackCloseWhatTheyMay
     Click("frmVirus", "Command2");
     EXPECT_EQ(player.boxes, QStringList{"Сообщение: Вирус сожрал 250 баксов!"});
     Say("OK");
+    EXPECT_EQ(QApplication::activeWindow(), &Main());
     Choose("mnuFileExit");
     for (const char* way : {"Esc", "close"}) {
         Leave("MessageBox", way);
