@@ -28,6 +28,14 @@ dbus-daemon             dbus-run-session
 at-spi2-core            -
 python3-pyatspi         -
 g++-mingw-w64-x86-64-posix  x86_64-w64-mingw32-g++-posix
+python3                 python3
+strace                  strace
+"
+# What the full numbers of the reliability checks need besides.
+readonly LONG_NEEDS="
+clang-19                clang-19
+libclang-rt-19-dev      -
+gcovr                   gcovr
 "
 readonly OLDEST_CMAKE=3.25
 
