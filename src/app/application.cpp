@@ -44,20 +44,20 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 bool Application::notify(QObject* receiver, QEvent* event)
 {
     // Reported after the exception is gone: the box suspends its routine.
-    int number = 0;
+    RuntimeError failure;
     try {
         return QApplication::notify(receiver, event);
     } catch (const RuntimeError& caught) {
-        number = caught.number;
+        failure = caught;
     } catch (const std::bad_alloc&) {
-        number = error::OutOfMemory;
+        failure.number = error::OutOfMemory;
     } catch (const std::exception&) {
-        number = error::InvalidCall;
+        failure.number = error::InvalidCall;
     } catch (const LifeEnd&) {
     } catch (const Abandoned&) {
     }
-    if (number != 0) {
-        EnterRules([number] { ReportError(number); });
+    if (failure.number != 0) {
+        EnterRules([failure] { ReportError(failure.number, failure.path); });
     }
     return true;
 }

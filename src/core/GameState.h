@@ -47,8 +47,6 @@ struct Game {
     Int16 CurrWork; ///< job 0..12
 };
 
-/// Its short name, for rows of tables.
-
 inline Game GameState;
 
 } // namespace torvenhall

@@ -12,6 +12,7 @@ namespace
 
 Remembered<int> lifeNumber;
 Remembered<bool> programEnded;
+Remembered<std::function<void()>> whenOver;
 
 } // namespace
 
@@ -24,6 +25,18 @@ void BeginAnotherLife()
 {
     ++*lifeNumber;
     Windows().EndPauses();
+}
+
+void WhenLifeIsOver(const std::function<void()>& deed)
+{
+    *whenOver = deed;
+}
+
+void LifeIsOver()
+{
+    if (*whenOver) {
+        (*whenOver)();
+    }
 }
 
 void EndLife()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 namespace torvenhall
 {
 
@@ -19,6 +21,10 @@ struct Abandoned {
 int LifeNumber();
 /// Whatever waits for the present life is abandoned.
 void BeginAnotherLife();
+
+/// What is to be done as soon as the present life is over, before its last box.
+void WhenLifeIsOver(const std::function<void()>& deed);
+void LifeIsOver();
 
 /// Shows nothing: unwinds so that the rest of the dead person's routine
 /// touches nobody.

@@ -25,7 +25,24 @@ auto Await(Call&& call)
     return answer;
 }
 
-/// Waits for at most so many seconds.
+// Long enough: the end of the pause ends the wait.
+constexpr double UntilItGoesOn = 3600;
+
+/// Waits until a body says that enough seconds of play have passed; it tells
+/// how many are left of the present wait.
+template <class Left>
+void AwaitPlay(Left&& left)
+{
+    const double start = PlaySeconds();
+    double seconds = left(0);
+    while (seconds > 0 || PlayStandsStill()) {
+        AwaitTime(PlayStandsStill() ? UntilItGoesOn : seconds);
+        seconds = left(PlaySeconds() - start);
+    }
+}
+
+} // namespace
+
 void AwaitTime(double seconds)
 {
     Await([&] {
@@ -33,8 +50,6 @@ void AwaitTime(double seconds)
         return true;
     });
 }
-
-} // namespace
 
 Answer MsgBox(std::string_view text, std::string_view title, Icon icon, Buttons buttons)
 {
@@ -49,6 +64,7 @@ Answer MsgBox(std::string_view text, std::string_view title, Icon icon, Buttons 
 void LastBox(std::string_view text, std::string_view title, Icon icon)
 {
     BeginAnotherLife();
+    LifeIsOver();
     {
         const Running lastBox(Running::What::LastBox);
         MsgBox(text, title, icon);
@@ -81,14 +97,7 @@ void ShowVirusWindow()
 
 void Pause(double seconds)
 {
-    // Long enough: the end of the pause ends the wait.
-    constexpr double untilItGoesOn = 3600;
-    const double start = PlaySeconds();
-    double left = seconds;
-    while (left > 0 || PlayStandsStill()) {
-        AwaitTime(PlayStandsStill() ? untilItGoesOn : left);
-        left = seconds - (PlaySeconds() - start);
-    }
+    AwaitPlay([&](double elapsed) { return seconds - elapsed; });
 }
 
 void WaitSeconds(int n)
@@ -96,12 +105,8 @@ void WaitSeconds(int n)
     // The rounding is reached half a second early; a tie may round down, so a
     // little after it.
     constexpr double roundsUpAfter = 0.501;
-    const double start = WallSeconds();
-    double elapsed = 0;
-    while (Round(elapsed) < n) {
-        AwaitTime(n - 1 + roundsUpAfter - elapsed);
-        elapsed = WallSeconds() - start;
-    }
+    AwaitPlay(
+        [&](double elapsed) { return Round(elapsed) < n ? n - 1 + roundsUpAfter - elapsed : 0; });
 }
 
 } // namespace torvenhall

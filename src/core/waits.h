@@ -24,8 +24,10 @@ void ShowVirusWindow();
 
 /// Waits until so many seconds of the game (core/playclock.h) have passed.
 void Pause(double seconds);
-/// The network's pause: ends when the elapsed seconds, rounded half to even,
-/// reach n, so up to half a second early; n <= 0 ends at once.
+/// Waits so many seconds of the wall clock, or less.
+void AwaitTime(double seconds);
+/// The network's pause, in the game's seconds too: ends when the elapsed seconds, rounded half to
+/// even, reach n, so up to half a second early; n <= 0 ends at once.
 void WaitSeconds(int n);
 
 } // namespace torvenhall

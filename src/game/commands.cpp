@@ -30,11 +30,10 @@ void CloseProgram()
     // new life's name dialog.
     const Running closing(Running::What::Closing);
     const StandStill still;
+    KeepLife(); // while it is asked, a desktop may lose its patience
     const bool mustSave =
         MsgBox("Сохранить игру сейчас???", "Вопрос", Icon::Question, Buttons::YesNo) == Answer::Yes;
-    if (mustSave && !SaveGame()) {
-        KeepLife(); // what was to be saved is not lost because saving failed
-    } else {
+    if (!mustSave || SaveGame()) {
         LetLifeGo();
     }
     EndProgram();

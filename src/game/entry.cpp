@@ -8,7 +8,6 @@
 #include "core/unwinding.h"
 #include "game/clock.h"
 #include "game/newgame.h"
-#include "savegame/recovery.h"
 
 namespace torvenhall
 {
@@ -41,7 +40,6 @@ void Enter(Entry entry, const std::function<void()>& body)
     Windows().Run([entry, body] {
         BeginRoutine(entry);
         if (LifeEndsIn(body)) {
-            LetLifeGo();
             LifeEndsIn(NewGame);
         }
     });

@@ -19,6 +19,7 @@
 #include "savegame/recovery.h"
 #include "savegame/savegame.h"
 #include "system/convert.h"
+#include "system/files.h"
 #include "system/text.h"
 
 namespace torvenhall
@@ -50,7 +51,6 @@ NewPlayer AskPlayerName()
     for (;;) {
         const std::optional<NewPlayer> entered = AskName(player);
         if (!entered) {
-            KeepLife(); // whoever wants no new life may have wanted the old one
             EndProgram();
         }
         player = *entered;
@@ -98,9 +98,9 @@ constexpr std::string_view BrokenOff = "Прерванная игра";
 /// Whether the player wants to go on with it.
 bool Offer(const Game& life)
 {
-    const std::string told = "Прошлая игра оборвалась, но не потеряна: " + life.PlayerName + ", " +
+    const std::string told = "Прошлая игра прервалась, но не потеряна: " + life.PlayerName + ", " +
                              LongDateText(life.GameDate) + " г., $" + Decimal(life.Money) +
-                             ".\n\nПродолжить её? «Нет» начнёт новую жизнь, а эту удалит.";
+                             ".\n\nПродолжить её? «Нет» удалит её навсегда.";
     return MsgBox(told, BrokenOff, Icon::Question, Buttons::YesNo) == Answer::Yes;
 }
 
@@ -115,15 +115,31 @@ void GoOnWith(const KeptLife& kept)
         EmptyTheComputer();
     }
     ContinueGame(kept.lines);
-    {
-        // Until the desktop has found a place for the window, over which the
-        // pause opens, no tick passes.
-        constexpr double untilItStands = 0.2;
-        const Running newGame(Running::What::NewGame);
-        Windows().ShowMainWindow();
-        Pause(untilItStands);
+    SetPaused(true);
+    Windows().EnableTimer(false);
+    Windows().ShowMainWindow();
+    constexpr double untilItStands = 0.2; // somewhere on the desktop; the pause opens over it
+    AwaitTime(untilItStands);
+    if (PlayStandsStill()) {
+        PauseGame();
     }
-    PauseGame();
+}
+
+/// Tells why nobody can go on with a kept life; a damaged one is not offered
+/// again.
+void Refuse(const KeptLife& kept)
+{
+    const bool isDamaged = kept.failure == 0 || kept.failure == error::Subscript ||
+                           kept.failure == error::BadRecordLength;
+    if (!isDamaged) {
+        ReportError(kept.failure, kept.path);
+        return;
+    }
+    Trapped([&] {
+        MsgBox("Прошлая игра прервалась, а её файл повреждён. Он отложен: " +
+                   SetKeptLifeAside(kept),
+               BrokenOff, Icon::Exclamation);
+    });
 }
 
 /// Whether the player goes on with a life that a program had in hand when it
@@ -132,14 +148,12 @@ bool GoesOn()
 {
     for (const KeptLife& kept : FindKeptLives()) {
         if (!kept.game) {
-            MsgBox("Прошлая игра оборвалась, а её файл повреждён. Он отложен: " +
-                       SetKeptLifeAside(kept),
-                   BrokenOff, Icon::Exclamation);
+            Refuse(kept);
         } else if (Offer(*kept.game)) {
             GoOnWith(kept);
             return true;
         } else {
-            DropKeptLife(kept);
+            Trapped([&] { DeleteFile(kept.path); });
         }
     }
     return false;
@@ -149,17 +163,21 @@ bool GoesOn()
 
 void Main()
 {
+    DeleteStraySaves();
     bool goesOn = false;
-    Trapped([&] { goesOn = GoesOn(); });
+    // What failed half-way is still kept for the next start.
+    if (!Trapped([&] { goesOn = GoesOn(); })) {
+        EndProgram();
+    }
     if (!goesOn) {
         NewGame();
     }
-    DeleteStraySaves(); // not before the player sees anything
 }
 
 void NewGame()
 {
     Trapped([] {
+        KeepLife(); // until its successor has a name
         BeginAnotherLife();
         const Running newGame(Running::What::NewGame);
         CloseEverything();

@@ -90,25 +90,24 @@ std::vector<KeptLife> FindKeptLives()
             if (!kept.lock || !FileExists(path)) {
                 continue;
             }
-            TrappedSilently([&] {
-                kept.lines = DecodeGame(ReadWholeFile(path));
-                kept.game = WholeGame(kept.lines);
-            });
+            kept.failure = ErrorOf([&] {
+                               kept.lines = DecodeGame(ReadWholeFile(path));
+                               kept.game = WholeGame(kept.lines);
+                           }).number;
             found.push_back(std::move(kept));
         }
     });
     return found;
 }
 
-void DropKeptLife(const KeptLife& kept)
-{
-    TrappedSilently([&] { DeleteFile(kept.path); });
-}
-
 std::string SetKeptLifeAside(const KeptLife& kept)
 {
-    const std::string aside = WithExtension(kept.path, ".damaged");
-    return TrappedSilently([&] { RenameFile(kept.path, aside); }) ? aside : kept.path;
+    std::string aside = WithExtension(kept.path, ".damaged");
+    for (int number = 2; FileExists(aside); ++number) {
+        aside = WithExtension(kept.path, "." + Decimal(number) + ".damaged");
+    }
+    RenameFile(kept.path, aside);
+    return aside;
 }
 
 void TakeLifeInHand(const KeptLife& from)
@@ -119,15 +118,14 @@ void TakeLifeInHand(const KeptLife& from)
         hand->lock = from.lock;
     }
     hand->holdsLife = true;
+    WhenLifeIsOver(LetLifeGo);
 }
 
 void KeepLife()
 {
-    if (ProgramHasEnded()) {
+    if (ProgramHasEnded() || Running::Now(Running::What::NewGame) ||
+        Running::Now(Running::What::Load)) {
         return; // it was kept before, or is not to be
-    }
-    if (Running::Now(Running::What::LastBox)) {
-        LetLifeGo();
     }
     TrappedSilently([] {
         if (hand->holdsLife && (!hand->path.empty() || FindOwnFile())) {

@@ -18,16 +18,15 @@ namespace torvenhall
 struct KeptLife {
     std::string path;
     std::shared_ptr<void> lock; ///< while it is held no other program offers it
+    int failure = 0;            ///< the run-time error when the file cannot be read
     SavedGame lines = {};
     std::optional<Game> game = {}; ///< what the lines tell; nothing when damaged
 };
 
 /// The lives that no running program has in hand, in the order of their files.
 std::vector<KeptLife> FindKeptLives();
-/// Deletes a life that nobody wants to go on with.
-void DropKeptLife(const KeptLife& kept);
 /// Renames a damaged one, so that it is not offered again; the path of its file
-/// then.
+/// then. Errors as renaming raises them.
 std::string SetKeptLifeAside(const KeptLife& kept);
 
 /// The present life is in hand from now on, and no other; its file takes the
@@ -35,9 +34,10 @@ std::string SetKeptLifeAside(const KeptLife& kept);
 void TakeLifeInHand(const KeptLife& from = {});
 /// Writes the present life to this program's file, if one is in hand and
 /// anything has changed. Nobody is told of a failure: what was kept before is
-/// still there. A life whose last box is open is not kept any more.
+/// still there. While another life comes into being the one before is kept.
 void KeepLife();
-/// The life in hand is over, or safe: deletes what was kept of it.
+/// The life in hand is over (core/unwinding.h tells) or safe: deletes what was
+/// kept of it.
 void LetLifeGo();
 
 } // namespace torvenhall

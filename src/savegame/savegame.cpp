@@ -15,6 +15,7 @@
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
 #include "events/family.h"
+#include "savegame/recovery.h"
 #include "system/basSystem.h"
 #include "system/text.h"
 
@@ -75,6 +76,7 @@ std::optional<std::string> AskForGame(bool saving, const std::string& name = {},
 
 void WriteGame(const std::string& name)
 {
+    // The folder may have gone while the name was asked for.
     MakeDirectory(SaveFolder());
     ReplaceFile(SavePath(FileOf(name)), EncodeGame(GameState));
 }
@@ -126,11 +128,16 @@ void LoadNamedGame(const std::string& name)
         MsgBox("Файл игры " + FileOf(name) + " не найден!", "Ошибка", Icon::Critical);
         return;
     }
-    const SavedGame game = DecodeGame(ReadWholeFile(*path));
+    SavedGame game;
+    const RuntimeError failure = ErrorOf([&] { game = DecodeGame(ReadWholeFile(*path)); });
+    if (failure.number != 0) {
+        throw RuntimeError{failure.number, *path};
+    }
     if (game.front() != ApplicationTitle) {
         MsgBox("Некорректная версия", "Загрузка игры", Icon::Critical);
         return;
     }
+    KeepLife(); // should nobody go on with the one that comes
     ContinueGame(game);
 }
 
@@ -181,7 +188,7 @@ void ContinueGame(const SavedGame& game)
     const RuntimeError failure = ErrorOf([&] { ApplyGame(game); });
     ShowTime();
     if (failure.number != 0) {
-        ReportError(failure.number);
+        ReportError(failure.number, failure.path);
     }
 }
 

@@ -34,8 +34,8 @@ std::string GetWindowsDir();
 bool GetKeyValue(const std::string& keyName, const std::string& valueName, std::string& value);
 
 /// From now on a request to end the program (a logout, the terminal closed)
-/// does not end it but makes the returned descriptor readable. A second one
-/// ends it. -1 where the platform has no such thing.
+/// does not end it but makes the returned descriptor readable. -1 where the
+/// platform has no such thing.
 int WatchEndRequests();
 
 /// Where the shipped files lie (texts, anecdotes), with a trailing separator:

@@ -60,15 +60,23 @@ int NumberOf(const std::error_code& failure, Sought sought, std::string_view pat
     return sought == Sought::File && folderIsThere ? error::FileNotFound : error::PathNotFound;
 }
 
-/// Control characters, and those that turn the direction of writing: a name
-/// would not be what it looks like.
+/// Control characters, blanks of no width and what turns the direction of
+/// writing: a name would not be what it looks like.
 bool IsInvisible(char32_t character)
 {
     constexpr std::pair<char32_t, char32_t> ranges[]{
-        {0x00, 0x1F}, {0x7F, 0x9F}, {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}};
+        {0x00, 0x1F},     {0x7F, 0x9F},     {0xAD, 0xAD},    {0x61C, 0x61C},
+        {0x200B, 0x200F}, {0x2028, 0x202E}, {0x2060, 0x2069}};
     return std::ranges::any_of(ranges, [&](const auto& range) {
         return character >= range.first && character <= range.second;
     });
+}
+
+/// Whether only a writer gives such a name: a player's game may begin so too.
+bool IsStray(const std::string& name)
+{
+    return name.starts_with(StrayPrefix) &&
+           name.find_first_not_of("0123456789-", StrayPrefix.size()) == std::string::npos;
 }
 
 } // namespace
@@ -133,7 +141,8 @@ void MakeDirectory(const std::string& path)
     if (!IsDirectory(path)) {
         throw RuntimeError{error::PathFileAccess, path};
     }
-    FlushDirectory(NativePath(path).parent_path());
+    const fs::path made = NativePath(path);
+    FlushDirectory((made.has_filename() ? made : made.parent_path()).parent_path());
 }
 
 void ChangeDirectory(const std::string& path)
@@ -176,8 +185,7 @@ void DeleteStrays(const std::string& directory)
         const fs::path path = NativePath(directory) / NativePath(name);
         std::error_code failure;
         const fs::file_time_type written = fs::last_write_time(path, failure);
-        if (!failure && name.starts_with(StrayPrefix) &&
-            fs::file_time_type::clock::now() - written > longestSave) {
+        if (!failure && IsStray(name) && fs::file_time_type::clock::now() - written > longestSave) {
             fs::remove(path, failure);
         }
     }

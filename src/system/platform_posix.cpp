@@ -268,7 +268,8 @@ int WatchEndRequests()
         }
         errno = before;
     };
-    watched.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
+    // Not for the first time only: a closing terminal says so twice.
+    watched.sa_flags = SA_RESTART;
     for (const int request : {SIGTERM, SIGHUP, SIGINT}) {
         struct sigaction present {
         };

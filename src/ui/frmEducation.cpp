@@ -48,6 +48,7 @@ GameButton* frmEducation::AddToggle(const char* name, const QString& caption, do
                                     void (*toggle)())
 {
     GameButton* button = AddButton(name, caption, {26, top + ButtonTop, PanelWidth - 24, 27});
+    button->SetEnterPresses(false);
     connect(button, &QAbstractButton::clicked, this, [toggle] { EnterRules(toggle); });
     return button;
 }

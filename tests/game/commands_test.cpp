@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "core/playclock.h"
 #include "game/clock.h"
 #include "game/programs.h"
 #include "support/life.h"
@@ -58,6 +59,7 @@ TEST_F(Commands, EachDoesAsItsLineSays)
     run([] { throw std::runtime_error("?"); });
     player.answers = {Answer::Yes};
     player.games = {std::nullopt};
+    Meanwhile([] { EXPECT_TRUE(PlayStandsStill()) << "no day goes on, no death comes"; });
     run(CloseProgram);           // even if the saving is cancelled
     run([] { SetMoney(1000); }); // nothing runs in an ended program
     EnterTick();

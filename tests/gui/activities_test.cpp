@@ -54,10 +54,12 @@ TEST_F(Activities, WhatTheGameChangesShowsInAnOpenWindow)
     SetEducation(7);
     GameState.AttendCourses = True;
     Click("frmMain", "cmdSchool");
+    Control("frmEducation", "Command2").setFocus();
     JustBeforeMidnight();
     GameState.GameDate = std::chrono::year{2001} / 1 / 31;
     Tick();
     EXPECT_FALSE(Control("frmEducation", "Command2").isEnabled());
+    EXPECT_TRUE(Control("frmEducation", "Command8").hasFocus()) << "no other button to press";
 }
 
 TEST_F(Activities, TheMessageLineRemembersItsLastTenMessages)

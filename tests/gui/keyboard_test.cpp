@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSet>
+#include <QShortcut>
 
 #include "network/network.h"
 #include "support/play.h"
@@ -80,7 +81,7 @@ TEST_F(Keyboard, EnterCostsNothingAndEscTheCloseBoxAndTheWayBackCloseWhatTheyMay
             EXPECT_TRUE(ClockTicks());
         }
     }
-    EXPECT_EQ(GameState.Money, 5000);
+    EXPECT_EQ(GameState.Money - GameState.AttendSchool, 5000);
     EXPECT_EQ(Network().inetStatus, "Status: Disconnected");
     // the virus and a question insist on an answer
     Click("frmVirus", "Command2");
@@ -100,6 +101,9 @@ TEST_F(Keyboard, F1OpensTheManualInEveryWindow)
         player.boxes.clear();
         EXPECT_TRUE(Until([&] { return QApplication::activeWindow() == &window; }));
         Press(window, Qt::Key_F1); // given no manual beside the program
+        for (const auto* key : window.findChildren<QShortcut*>()) {
+            EXPECT_FALSE(key->autoRepeat());
+        }
         EXPECT_TRUE(player.boxes.value(0).startsWith("Ошибка: Файл справочной информации"));
         for (QWidget* box : Visible().values("MessageBox")) {
             box == &window ? void() : void(box->close());

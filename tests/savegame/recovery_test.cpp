@@ -42,9 +42,9 @@ protected:
 TEST_F(Recovery, ALifeGoesOnUnderItsNamePausedAndNothingOfItIsLost)
 {
     Assign("Married=-1 WifeFound=-1 Sons=2");
-    const std::string offered = "? Прерванная игра: Прошлая игра оборвалась, но не потеряна: Иван, "
-                                "1 января 2001 г., $77.\n\nПродолжить её? «Нет» начнёт новую "
-                                "жизнь, а эту удалит.";
+    const std::string offered = "? Прерванная игра: Прошлая игра прервалась, но не потеряна: Иван, "
+                                "1 января 2001 г., $77.\n\nПродолжить её? «Нет» удалит её "
+                                "навсегда.";
     Stop();
     const std::string kept = ReadWholeFile(File());
     EXPECT_EQ(Answered(Answer::Yes), offered);
@@ -78,6 +78,8 @@ TEST_F(Recovery, OnlyANormalEndOrAnotherLifeRemovesTheFile)
          true},
         {"from outside", [] { EnterRules(EndFromOutside); }, true},
         {"a new game", [] { EnterRules(NewGame); }, false},
+        {"killed while a game is asked for",
+         [&] { player.games = {std::nullopt}, Meanwhile(KeepLife), EnterRules(LoadGame); }, true},
         {"a new game after all not", [&] { player.names = {std::nullopt}, EnterRules(NewGame); },
          true},
         {"a death", [] { EnterRules([] { SetHealth(-50); }); }, false},
@@ -104,9 +106,9 @@ TEST_F(Recovery, OnlyANormalEndOrAnotherLifeRemovesTheFile)
 
 TEST_F(Recovery, ADamagedOneIsSetAsideEachProgramHasItsOwnAndABegunDayIsLivedAgain)
 {
-    Meanwhile([] { KeepLife(); });
     JustBeforeMidnight();
     dice.otherwise = DrawOf(6, 25); // a burglary is told
+    Meanwhile([&] { player.names = {std::nullopt}, EnterRules(NewGame); });
     EnterTick();
     EXPECT_EQ(DecodeGame(ReadWholeFile(File()))[3], "23:59");
     const auto others = LockFile(folder + "RECOVERY/life-2.lock");
@@ -115,7 +117,7 @@ TEST_F(Recovery, ADamagedOneIsSetAsideEachProgramHasItsOwnAndABegunDayIsLivedAga
     Restart();
     Texts told = Split(Answered(Answer::No), ", ! ");
     EXPECT_EQ(ReplaceAll(told.back(), folder, ""),
-              "Прерванная игра: Прошлая игра оборвалась, а её файл повреждён. Он отложен: "
+              "Прерванная игра: Прошлая игра прервалась, а её файл повреждён. Он отложен: "
               "RECOVERY/life-3.damaged");
     EXPECT_TRUE(!IsKept() && FileExists(File(2)) && !FileExists(File(3)));
     ExpectFreshLife("Пётр");

@@ -83,7 +83,7 @@ told="$(line 6), level $(line 31), speed $(line 32)"
 [ "$told" = "Newton, level 2, speed 60" ] || fail "the saved game tells of $told"
 
 press_for ctrl+o "Загрузка игры" # what waits for an answer is no obstacle
-kill -TERM "$game"
+kill -HUP "$game" && kill -HUP "$game" # as a closing terminal does
 ends
 start
 expect "Прерванная игра"
