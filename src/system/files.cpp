@@ -71,6 +71,19 @@ bool IsInvisible(char32_t character)
     });
 }
 
+/// How a call that reports by an error code ended; one that a signal has
+/// interrupted is repeated.
+template <class Call>
+std::error_code FailureOf(Call&& call)
+{
+    std::error_code failure;
+    do {
+        failure.clear();
+        call(failure);
+    } while (failure == std::errc::interrupted);
+    return failure;
+}
+
 } // namespace
 
 fs::path NativePath(std::string_view utf8)
@@ -115,16 +128,20 @@ void MakeDirectory(const std::string& path)
     if (IsDirectory(path)) {
         return;
     }
-    std::error_code failure;
-    fs::create_directory(NativePath(path), failure);
+    bool isThere = false;
+    const fs::path folder = NativePath(path);
+    std::error_code failure = FailureOf([&](auto& told) { fs::create_directory(folder, told); });
+    if (!failure) {
+        // A file of that name is neither success nor failure to some libraries.
+        failure = FailureOf([&](auto& told) { isThere = fs::is_directory(folder, told); });
+    }
     if (failure) {
         RaiseFileError(failure, Sought::Folder, path);
     }
-    // A file of that name is neither success nor failure to some libraries.
-    if (!IsDirectory(path)) {
+    if (!isThere) {
         throw RuntimeError{error::PathFileAccess, path};
     }
-    FlushDirectory(NativePath(path).parent_path());
+    FlushDirectory(folder.parent_path());
 }
 
 void ChangeDirectory(const std::string& path)
