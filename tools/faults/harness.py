@@ -42,10 +42,11 @@ class Driver:
     """A folder to work in, the saver, and the problems found so far."""
 
     def __init__(self, description):
-        arguments = [a for a in sys.argv[1:] if not a.startswith("--")]
-        if len(arguments) != 1:
-            sys.exit(f"usage: {sys.argv[0]} SAVER [--long]\n{description}")
+        arguments = [a for a in sys.argv[1:] if a != "--long"]
+        if not 1 <= len(arguments) <= 2 or not all(a.isdigit() for a in arguments[1:]):
+            sys.exit(description)
         self.long = "--long" in sys.argv
+        self.seed = int(arguments[1]) if arguments[1:] else time.time_ns() % 1_000_000
         self.problems = []
         self.began = time.monotonic()
         self.folder = Path(tempfile.mkdtemp(prefix="faults-"))
