@@ -30,7 +30,9 @@ class Told:
         self.life = bytes.fromhex(lives[-1]) if lives else None
 
     def listed(self):
-        """The games that the last dialog offered."""
+        """The games that the last dialog offered, None without a dialog."""
+        if not self.asks:
+            return None
         found = re.search(r"Доступные игры: \| (?:(.*) \| )?(?:[^|]*_ \| )?[^|]+$", self.asks[-1])
         return (found[1] or "").split(", ") if found[1] else []
 
@@ -42,12 +44,13 @@ class Driver:
     """A folder to work in, the saver, and the problems found so far."""
 
     def __init__(self, description):
-        arguments = [a for a in sys.argv[1:] if a != "--long"]
+        arguments = [a for a in sys.argv[1:] if not a.startswith("--")]
         if not 1 <= len(arguments) <= 2 or not all(a.isdigit() for a in arguments[1:]):
             sys.exit(description)
         self.long = "--long" in sys.argv
         self.seed = int(arguments[1]) if arguments[1:] else time.time_ns() % 1_000_000
         self.problems = []
+        self.slowest = 0  # run, in seconds
         self.began = time.monotonic()
         self.folder = Path(tempfile.mkdtemp(prefix="faults-"))
         # Another user has to get here too, and the program may lie where he may not.
@@ -59,10 +62,17 @@ class Driver:
         os.environ["ASAN_OPTIONS"] = "detect_leaks=0"
 
     def run(self, *arguments, before=(), user=None):
-        """Runs the saver; TimeoutExpired when it hangs."""
+        """Runs the saver; one that hangs ends with no status."""
         command = [*before, self.program, arguments[0], self.data, *arguments[1:]]
         other = {} if user is None else {"user": user, "group": user, "extra_groups": []}
-        return Told(subprocess.run(command, capture_output=True, timeout=LONGEST_RUN, **other))
+        began = time.monotonic()
+        try:
+            ended = subprocess.run(command, capture_output=True, timeout=LONGEST_RUN, check=False,
+                                   **other)
+        except subprocess.TimeoutExpired:
+            ended = subprocess.CompletedProcess(command, None, b"", b"it hangs")
+        self.slowest = max(self.slowest, time.monotonic() - began)
+        return Told(ended)
 
     def game(self, name=GAME):
         return self.save / f"{name}.QVS"
@@ -83,6 +93,9 @@ class Driver:
     def anew(self, games=None):
         """An empty folder with these saved games, None for a folder without SAVE."""
         if self.data.exists():
+            for folder in (self.data, self.save):
+                if folder.is_dir() and not folder.is_symlink():
+                    folder.chmod(0o755)
             shutil.rmtree(self.data)
         self.data.mkdir()
         if games is not None:
