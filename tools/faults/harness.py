@@ -78,8 +78,8 @@ class Driver:
         return self.save / f"{name}.QVS"
 
     def bytes_of(self, name=GAME):
-        """The saved game's bytes, None without one."""
-        return self.game(name).read_bytes() if self.game(name).exists() else None
+        """The saved game's bytes, None without a regular file."""
+        return self.game(name).read_bytes() if self.game(name).is_file() else None
 
     def bytes_for(self, player):
         """The whole saved game of a new life of this name."""
