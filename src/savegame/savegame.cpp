@@ -115,10 +115,7 @@ std::optional<std::string> PathOf(const std::string& name)
 {
     const std::vector<std::string> files = SavedFiles();
     const auto file = std::ranges::find(files, name, StripExtension);
-    if (file == files.end() || !FileExists(SavePath(*file))) {
-        return std::nullopt;
-    }
-    return SavePath(*file);
+    return file == files.end() ? std::nullopt : std::optional(SavePath(*file));
 }
 
 void LoadNamedGame(const std::string& name)

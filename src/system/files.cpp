@@ -79,6 +79,19 @@ bool IsStray(const std::string& name)
            name.find_first_not_of("0123456789-", StrayPrefix.size()) == std::string::npos;
 }
 
+/// How a call that reports by an error code ended; one that a signal has
+/// interrupted is repeated.
+template <class Call>
+std::error_code FailureOf(Call&& call)
+{
+    std::error_code failure;
+    do {
+        failure.clear();
+        call(failure);
+    } while (failure == std::errc::interrupted);
+    return failure;
+}
+
 } // namespace
 
 fs::path NativePath(std::string_view utf8)
@@ -132,17 +145,20 @@ void MakeDirectory(const std::string& path)
     if (IsDirectory(path)) {
         return;
     }
-    std::error_code failure;
-    fs::create_directory(NativePath(path), failure);
+    bool isThere = false;
+    const fs::path folder = NativePath(path);
+    std::error_code failure = FailureOf([&](auto& told) { fs::create_directory(folder, told); });
+    if (!failure) {
+        // A file of that name is neither success nor failure to some libraries.
+        failure = FailureOf([&](auto& told) { isThere = fs::is_directory(folder, told); });
+    }
     if (failure) {
         RaiseFileError(failure, Sought::Folder, path);
     }
-    // A file of that name is neither success nor failure to some libraries.
-    if (!IsDirectory(path)) {
+    if (!isThere) {
         throw RuntimeError{error::PathFileAccess, path};
     }
-    const fs::path made = NativePath(path);
-    FlushDirectory((made.has_filename() ? made : made.parent_path()).parent_path());
+    FlushDirectory((folder.has_filename() ? folder : folder.parent_path()).parent_path());
 }
 
 void ChangeDirectory(const std::string& path)

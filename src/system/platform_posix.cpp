@@ -150,8 +150,9 @@ public:
     {
         struct stat old {
         };
-        if (::fstatat(folder, target.c_str(), &old, 0) == 0) {
-            static_cast<void>(::fchmod(file.Number(), old.st_mode & OrdinaryMode));
+        if (Retried([&] { return ::fstatat(folder, target.c_str(), &old, 0); }) == 0) {
+            static_cast<void>(
+                Retried([&] { return ::fchmod(file.Number(), old.st_mode & OrdinaryMode); }));
         }
     }
     bool RenameTo(const std::string& target)
@@ -207,8 +208,9 @@ void ReplaceFile(const std::string& path, std::string_view bytes)
     const Descriptor folder = Open(folderPath, O_RDONLY | O_DIRECTORY);
     RaiseUnless(folder.IsOpen(), path);
     // A rename would not mind a file that the player has protected.
-    RaiseUnless(
-        ::faccessat(folder.Number(), name.c_str(), W_OK, AT_EACCESS) == 0 || errno == ENOENT, path);
+    const int writable =
+        Retried([&] { return ::faccessat(folder.Number(), name.c_str(), W_OK, AT_EACCESS); });
+    RaiseUnless(writable == 0 || errno == ENOENT, path);
 
     TemporaryFile temporary(folder.Number());
     RaiseUnless(temporary.IsOpen(), path);
