@@ -90,6 +90,13 @@ bool frmLocGame::eventFilter(QObject* watched, QEvent* event)
             }
             return true;
         }
+        // The focus stands on the first row already: the first arrow chooses it
+        // instead of passing it by.
+        if ((key == Qt::Key_Down || key == Qt::Key_Up) && list->currentItem() != nullptr &&
+            list->selectedItems().isEmpty()) {
+            list->currentItem()->setSelected(true);
+            return true;
+        }
     }
     return GameWindow::eventFilter(watched, event);
 }

@@ -12,8 +12,8 @@ from contextlib import suppress
 import pyatspi
 from gi.repository import Atspi, GLib
 
-PATIENCE = 15  # seconds until something expected counts as missing
-LONGEST_DAY = 45  # seconds: a message may be typed before the date moves on
+PATIENCE = 40  # seconds until something expected counts as missing
+LONGEST_DAY = 90  # seconds: a message may be typed before the date moves on
 MAIN = "Marshend Torvenhall 1.5 - Ньютон"
 INTERACTIVE = {"push button", "text", "combo box", "list", "menu", "menu item"}
 
@@ -101,7 +101,7 @@ def play(game):
 
 
 # Milliseconds for an answer, and for one of a program that just started.
-Atspi.set_timeout(3000, 15000)
+Atspi.set_timeout(15000, 30000)
 with subprocess.Popen([sys.argv[1]]) as program:
     try:
         play(program)
