@@ -12,10 +12,7 @@ class SilentFrontEnd final : public FrontEnd
 public:
     void Run(const std::function<void()>& /*routine*/) override {}
     void LabelChanged(Label /*label*/) override {}
-    Answer ShowMessageBox(const MessageBox& box) override
-    {
-        return box.buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
-    }
+    Answer ShowMessageBox(const MessageBox& /*box*/) override { return Answer::No; }
     std::optional<std::string> AskText(std::string_view, std::string_view) override { return {}; }
     std::optional<NewPlayer> AskName(const NewPlayer&) override { return {}; }
     std::optional<std::string> AskGameName(const GameNameQuestion&) override { return {}; }

@@ -1,5 +1,6 @@
 #include "resources/basLangMGR.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "core/traps.h"
@@ -24,9 +25,16 @@ std::string_view WithoutTrailingBlanks(std::string_view text)
     return text.substr(0, text.find_last_not_of(Blanks) + 1);
 }
 
+/// The left one is the file's.
 bool IsSameName(std::string_view left, std::string_view right)
 {
-    return FoldCase(FromWindows1251(Trim(left, Blanks))) == FoldCase(Trim(right, Blanks));
+    left = Trim(left, Blanks);
+    right = Trim(right, Blanks);
+    // A byte is a letter there: a name of a damaged file may be as long as the file.
+    if (left.size() != Characters(right).size()) {
+        return false;
+    }
+    return FoldCase(FromWindows1251(left)) == FoldCase(right);
 }
 
 /// The section's name if the line begins a section.
@@ -52,15 +60,16 @@ std::string_view WithoutQuotes(std::string_view value)
 std::string FindValue(std::string_view file, std::string_view section, std::string_view key)
 {
     bool inSection = false;
-    for (const std::string& line : Split(file, "\n")) {
+    while (!file.empty()) {
+        const std::string_view line = file.substr(0, file.find('\n'));
+        file.remove_prefix(std::min(line.size() + 1, file.size()));
         const std::size_t equals = line.find('=');
         if (const auto begun = SectionOf(line)) {
             inSection = IsSameName(*begun, section);
-        } else if (inSection && equals != std::string::npos &&
+        } else if (inSection && equals != std::string_view::npos &&
                    !Trim(line, Blanks).starts_with(';') &&
-                   IsSameName(std::string_view(line).substr(0, equals), key)) {
-            const std::string_view value = std::string_view(line).substr(equals + 1);
-            return std::string(WithoutQuotes(WithoutTrailingBlanks(value)));
+                   IsSameName(line.substr(0, equals), key)) {
+            return std::string(WithoutQuotes(WithoutTrailingBlanks(line.substr(equals + 1))));
         }
     }
     return {};

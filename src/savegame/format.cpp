@@ -79,28 +79,31 @@ struct Row {
 };
 
 template <auto Field>
-constexpr Row Value{
-    [](const Game& game) { return Text(game.*Field); },
-    [](Game& game, std::string_view text) { Read(game.*Field, text); },
-};
+constexpr auto WriteValue = [](const Game& game) { return Text(game.*Field); };
 
-template <auto Field, auto Setter>
-constexpr Row Shown{
-    Value<Field>.write,
-    Value<Field>.read,
-    [](Game& read) { Setter(read.*Field); },
-};
+template <auto Field>
+constexpr auto ReadValue = [](Game& game, std::string_view text) { Read(game.*Field, text); };
+
+template <auto Field>
+constexpr auto WriteBoolean = [](const Game& game) { return Text(AsBoolean(game.*Field)); };
 
 /// Reads any number but 0 as True.
 template <auto Field>
-constexpr Row Boolean{
-    [](const Game& game) { return Text(AsBoolean(game.*Field)); },
-    [](Game& game, std::string_view text) { game.*Field = ReadInt32(text) == 0 ? False : True; },
-};
+constexpr auto ReadBoolean =
+    [](Game& game, std::string_view text) { game.*Field = ReadInt32(text) == 0 ? False : True; };
+
+template <auto Field>
+constexpr Row Value{WriteValue<Field>, ReadValue<Field>};
+
+template <auto Field, auto Setter>
+constexpr Row Shown{WriteValue<Field>, ReadValue<Field>, [](Game& read) { Setter(read.*Field); }};
+
+template <auto Field>
+constexpr Row Boolean{WriteBoolean<Field>, ReadBoolean<Field>};
 
 /// Written as a Boolean, but keeps any number that it reads.
 template <auto Field>
-constexpr Row LooseBoolean{Boolean<Field>.write, Value<Field>.read};
+constexpr Row LooseBoolean{WriteBoolean<Field>, ReadValue<Field>};
 
 constexpr Row Title{
     [](const Game&) { return std::string(ApplicationTitle); },

@@ -41,14 +41,14 @@ std::string ToWindows1251(std::string_view utf8)
     bytes.reserve(utf8.size());
     for (const std::string_view character : Characters(utf8)) {
         const char32_t codePoint = CodePoint(character);
-        const auto found = std::ranges::find(UpperHalf, codePoint);
         if (codePoint < FirstInTable) {
             bytes += static_cast<char>(codePoint);
-        } else if (found != UpperHalf.end()) {
-            bytes += static_cast<char>(FirstInTable + (found - UpperHalf.begin()));
-        } else {
-            bytes += '?';
+            continue;
         }
+        const auto found = std::ranges::find(UpperHalf, codePoint);
+        bytes += found != UpperHalf.end()
+                     ? static_cast<char>(FirstInTable + (found - UpperHalf.begin()))
+                     : '?';
     }
     return bytes;
 }

@@ -54,9 +54,8 @@ int NumberOf(const std::error_code& failure, Sought sought, std::string_view pat
     if (found->number != error::FileNotFound) {
         return found->number;
     }
-    const fs::path folder = NativePath(path).parent_path();
     std::error_code ignored;
-    const bool folderIsThere = folder.empty() || fs::is_directory(folder, ignored);
+    const bool folderIsThere = fs::is_directory(NativePath(path).parent_path(), ignored);
     return sought == Sought::File && folderIsThere ? error::FileNotFound : error::PathNotFound;
 }
 

@@ -147,16 +147,17 @@ std::string_view Trim(std::string_view text, std::string_view blanks)
     return text.substr(0, text.find_last_not_of(blanks) + 1);
 }
 
-std::string ReplaceAll(std::string text, std::string_view from, std::string_view to)
+std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to)
 {
-    if (from.empty()) {
-        return text;
+    std::string replaced;
+    for (std::size_t at = text.find(from); at != std::string_view::npos && !from.empty();
+         at = text.find(from)) {
+        replaced += text.substr(0, at);
+        replaced += to;
+        text.remove_prefix(at + from.size());
     }
-    for (std::size_t at = text.find(from); at != std::string::npos;
-         at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-    return text;
+    replaced += text;
+    return replaced;
 }
 
 std::vector<std::string> Split(std::string_view text, std::string_view separator)

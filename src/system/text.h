@@ -30,7 +30,7 @@ bool IsUtf8(std::string_view text);
 std::string_view Trim(std::string_view text, std::string_view blanks);
 
 /// Every occurrence of `from` replaced by `to`.
-std::string ReplaceAll(std::string text, std::string_view from, std::string_view to);
+std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
 
 /// The text cut at every occurrence of `separator`; never empty.
 std::vector<std::string> Split(std::string_view text, std::string_view separator);

@@ -188,4 +188,8 @@ TEST_F(Lives, EachDayOfACenturyIsPaidEachMonthsEndChargedAndEachYearsEndTaxed)
         ASSERT_EQ(GameState.Happy, 30000 - (yearEnds ? 20 : monthEnds ? 10 : 5));
         ASSERT_EQ(GameState.GameDate, after);
     }
+    JustBeforeMidnight();
+    GameState.GameDate = LastDay;
+    Tick();
+    EXPECT_EQ(GameState.GameDate, LastDay) << "the calendar has no further one";
 }

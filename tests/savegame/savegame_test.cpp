@@ -4,6 +4,7 @@
 #include "equipment/basEquipment.h"
 #include "events/message.h"
 #include "savegame/format.h"
+#include "savegame/recovery.h"
 #include "support/life.h"
 #include "system/codepage.h"
 #include "system/text.h"
@@ -70,23 +71,6 @@ TEST_F(SavedGames, TheKeptGameLoadsThroughItsSettersInOrderAndEveryLineHasItsFie
     ExpectKept("saved.txt", lines);
 }
 
-TEST_F(SavedGames, ALineThatFailsOrIsMissingEndsTheLoadThere)
-{
-    for (const std::size_t line : {2U, 4U, 12U, 25U, 38U}) {
-        for (const bool isMissing : {false, true}) {
-            Begin();
-            SavedGame damaged = DecodeGame(known), expected = DecodeGame(Now());
-            std::copy_n(damaged.begin(), line - 1, expected.begin());
-            damaged[line - 1] = "?";
-            damaged.resize(isMissing ? line - 1 : SavedLines);
-            Load(damaged);
-            EXPECT_EQ(ErrorTold(), error::TypeMismatch);
-            EXPECT_EQ(DecodeGame(Now()), expected) << line;
-            EXPECT_TRUE(line < 5 || LabelShown(lblTime) == "29 февраля 2004 г. - 23:45");
-        }
-    }
-}
-
 TEST_F(SavedGames, TheDialogsAskInTheGamesWordsAndAnEmptyNameIsACancel)
 {
     for (const char* name : {"", "a", "Бета", "альфа", "a b", "game.qvs"}) {
@@ -108,6 +92,31 @@ TEST_F(SavedGames, TheDialogsAskInTheGamesWordsAndAnEmptyNameIsACancel)
     }
     EXPECT_FALSE(std::filesystem::exists(folder + "a.QVS"));
     ExpectKept("dialogs.txt", lines);
+}
+
+TEST_F(SavedGames, AHostileNameIsRefusedClearlyOrListedAndLoadedAndNothingLeavesTheFolder)
+{
+    const std::string deep = folder + "deep/er/";
+    std::filesystem::create_directories(deep);
+    SetDirectories(folder, deep);
+    LetLifeGo(); // only what is saved is written
+    // In the file's lines \HH is a byte, LONG the longest name.
+    ExpectEach("names.txt", [&](const std::string& line) {
+        std::string name = ReplaceAll(line, "LONG", std::string(251, 'n'));
+        for (std::size_t at = 0; (at = name.find('\\', at)) != std::string::npos; ++at) {
+            name.replace(at, 3, 1, static_cast<char>(std::stoi(name.substr(at + 1, 2), {}, 16)));
+        }
+        Save(name);
+        const std::string asked = Happened().back(), trouble = asked.substr(asked.rfind('|') + 2);
+        GameState.Money = 1;
+        Load(name);
+        const bool loaded = GameState.Money == 15;
+        EXPECT_EQ(ListSavedGames(), loaded ? Texts{name} : Texts{});
+        EXPECT_TRUE(!loaded || std::filesystem::remove(deep + "SAVE/" + name + ".QVS"));
+        GameState.Money = 15;
+        return loaded && trouble == "Сохранить" ? "listed and loaded" : trouble;
+    });
+    EXPECT_EQ(std::distance(std::filesystem::recursive_directory_iterator(folder), {}), 4);
 }
 
 TEST_F(SavedGames, TheFolderIsMadeWhenItIsNeededAndWithoutAPlaceForItNothingIsAsked)
@@ -181,4 +190,6 @@ TEST_F(SavedGames, OnlyTrueAndFalseAreWrittenALineBreakShiftsNoLineAndTheFirstGa
     Load(saved);
     EXPECT_EQ(LabelShown(lblGames), "Duke 3 for MSDOS");
     EXPECT_EQ(DecodeGame(""), SavedGame{""});
+    Load(SavedGame(saved.begin(), saved.end() - 1));
+    EXPECT_EQ(ErrorTold(), error::TypeMismatch) << "a line is missing";
 }
