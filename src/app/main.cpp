@@ -5,9 +5,12 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <iostream>
+#include <optional>
 #include <random>
 
 #include "app/application.h"
+#include "app/recorder.h"
 #include "app/tour.h"
 #include "core/random.h"
 #include "game/entry.h"
@@ -24,6 +27,7 @@ namespace
 struct Options {
     double fontPoints;
     QString tourFolder; ///< empty: play
+    QString recordFile; ///< empty: the game is not recorded
 };
 
 Options ReadOptions(const QCoreApplication& application)
@@ -34,13 +38,15 @@ Options ReadOptions(const QCoreApplication& application)
     parser.addVersionOption();
     const QCommandLineOption font("font-size", "Size of the desktop font in points.", "points");
     const QCommandLineOption tour("tour", "Save a picture of every window in a folder.", "folder");
-    parser.addOptions({font, tour});
+    const QCommandLineOption record("record", "Write down what the player does.", "file");
+    parser.addOptions({font, tour, record});
     parser.process(application);
     const double points = parser.value(font).toDouble();
     // The tour runs from wherever its pictures are wanted.
     const QString folder = parser.value(tour);
     return {points > 0 ? points : torvenhall::DesktopFontPoints(),
-            folder.isEmpty() ? folder : QDir::current().absoluteFilePath(folder)};
+            folder.isEmpty() ? folder : QDir::current().absoluteFilePath(folder),
+            parser.value(record)};
 }
 
 /// The player's folder for this program's data. A relative one is to be
@@ -69,8 +75,18 @@ int main(int argc, char** argv)
     constexpr double tourPace = 40; // its waits are not to be sat through
     QtWallClock clock(touring ? tourPace : 1);
     RandomDice dice(std::random_device{}());
-    QtFrontEnd frontEnd(clock);
-    Connect({&frontEnd, &dice, &clock});
+    std::optional<Recording> recording;
+    if (!options.recordFile.isEmpty()) {
+        recording.emplace(options.recordFile);
+        if (!recording->Trouble().isEmpty()) {
+            std::cerr << Utf8(options.recordFile + ": " + recording->Trouble()) << '\n';
+            return 1;
+        }
+        recording->Begin(std::random_device{}());
+    }
+    QtFrontEnd frontEnd(recording ? static_cast<GameClock&>(recording->clock) : clock);
+    Connect({&frontEnd, recording ? &recording->dice : &dice,
+             recording ? static_cast<WallClock*>(&recording->clock) : &clock});
     QTimer::singleShot(0, &application, [&] {
         if (touring) {
             QCoreApplication::exit(TakeTour(frontEnd, options.tourFolder));

@@ -26,4 +26,14 @@ private:
     std::mt19937_64 engine;
 };
 
+/// The same for a game that is to be played again: the timer's reading is left
+/// out.
+class ReplayableDice final : public RandomDice
+{
+public:
+    using RandomDice::RandomDice;
+    void Randomize() override { RandomDice::Randomize(0); }
+    using RandomDice::Randomize;
+};
+
 } // namespace torvenhall

@@ -110,6 +110,21 @@ void ApplyGame(const SavedGame& game)
     ShowTitle();
 }
 
+/// The lines before a damaged one stay applied, so all that they have stored is
+/// shown: nobody plays on with another computer than the one on screen.
+void ShowWhatIsApplied()
+{
+    for (int category = 0; category < HardwareCategories; ++category) {
+        InstallHardware(category, HardwareField(category), false);
+    }
+    for (int category = 0; category < SoftwareCategories; ++category) {
+        ShowSoftware(category);
+    }
+    ShowFamily();
+    SetWork(-1); // keeps the job
+    ShowTitle();
+}
+
 /// The file of a listed game.
 std::optional<std::string> PathOf(const std::string& name)
 {
@@ -185,6 +200,7 @@ void ContinueGame(const SavedGame& game)
     const RuntimeError failure = ErrorOf([&] { ApplyGame(game); });
     ShowTime();
     if (failure.number != 0) {
+        ShowWhatIsApplied();
         ReportError(failure.number, failure.path);
     }
 }

@@ -5,9 +5,6 @@
 #include <QDir>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTimer>
-
-#include <cmath>
 
 #include "game/commands.h"
 #include "game/entry.h"
@@ -114,8 +111,7 @@ void QtFrontEnd::Wait(double seconds)
     auto pause = pauses.end();
     routines.Await([&](const Routines::Resume& resume) {
         pause = pauses.insert(pauses.end(), resume);
-        const int milliseconds = static_cast<int>(std::ceil(clock.RealSeconds(seconds) * 1000));
-        QTimer::singleShot(std::max(milliseconds, 0), Qt::PreciseTimer, qApp, resume);
+        clock.CallAfter(seconds, resume);
     });
     pauses.erase(pause);
 }

@@ -21,7 +21,7 @@ class frmMain;
 class QtFrontEnd final : public FrontEnd
 {
 public:
-    explicit QtFrontEnd(const QtWallClock& newClock) : clock(newClock) {}
+    explicit QtFrontEnd(GameClock& newClock) : clock(newClock) {}
     ~QtFrontEnd() override;
 
     void Run(const std::function<void()>& routine) override;
@@ -48,13 +48,17 @@ public:
     /// The main window, made if there is none.
     frmMain& MainWindow();
 
+    /// The routines that wait, and those of them that wait for a time.
+    std::size_t Waiting() const { return routines.Waiting(); }
+    std::size_t WaitingForTime() const { return pauses.size(); }
+
 private:
     GameWindow* Find(std::string_view window) const;
     void Close(QWidget* window);
     bool AwaitEndOf(QDialog& dialog);
     bool IsConfirmed(QDialog& dialog);
 
-    const QtWallClock& clock;
+    GameClock& clock;
     Routines routines;
     std::list<Routines::Resume> pauses;
     WindowList windows;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #ifdef TORVENHALL_SANITIZE
+#include <sanitizer/asan_interface.h>
 #include <sanitizer/common_interface_defs.h>
 #endif
 
@@ -96,7 +97,13 @@ void Routines::Continue(const std::shared_ptr<Routine>& routine)
     running = outer;
     if (routine->inside) {
         waiting.push_back(routine);
+        return;
     }
+#ifdef TORVENHALL_SANITIZE
+    // Its first functions never return, and what marks their variables would
+    // stay in whatever is mapped there next.
+    __asan_unpoison_memory_region(routine->stack, routine->size);
+#endif
 }
 
 void Routines::Await(const std::function<void(const Resume& resume)>& begin)

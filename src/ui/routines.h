@@ -32,6 +32,8 @@ public:
     void Await(const std::function<void(const Resume& resume)>& begin);
     /// Ends every wait there is, so that nothing is left on any stack.
     void Unwind();
+    /// How many wait.
+    std::size_t Waiting() const { return waiting.size(); }
 
 private:
     struct Routine;
