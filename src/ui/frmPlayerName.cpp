@@ -2,7 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QTimer>
 
@@ -67,8 +67,12 @@ NewPlayer frmPlayerName::Entered() const
 bool frmPlayerName::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == name && event->type() == QEvent::FocusIn) {
-        // After the click that gave the focus, which places the cursor.
-        QTimer::singleShot(0, name, &QLineEdit::selectAll);
+        name->selectAll();
+        if (static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason) {
+            // And after the click, which places the cursor. No later otherwise: what
+            // a quick hand has typed by then would be replaced.
+            QTimer::singleShot(0, name, &QLineEdit::selectAll);
+        }
     }
     return GameWindow::eventFilter(watched, event);
 }
