@@ -258,7 +258,8 @@ std::string PlatformNameTrouble(std::string_view name)
 int WatchEndRequests()
 {
     static std::array<int, 2> ends{-1, -1};
-    if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+    constexpr int flags = O_CLOEXEC | O_NONBLOCK;
+    if (::pipe2(ends.data(), flags) != 0) {
         return -1;
     }
     struct sigaction watched {

@@ -12,6 +12,20 @@ using namespace torvenhall;
 
 using Commands = BegunLife;
 
+// Another system's folder and its settings, in the place of this one's.
+static std::string windowsFolder;
+static std::map<std::string, std::string> settings;
+
+extern "C" std::string WINDOWS_FOLDER()
+{
+    return windowsFolder;
+}
+extern "C" bool SETTINGS(const std::string&, const std::string& name, std::string& value)
+{
+    value = settings.contains(name) ? settings[name] : value;
+    return settings.contains(name);
+}
+
 TEST_F(Commands, ANewGameReplacesEverythingButTheAttendanceInItsOrder)
 {
     Given("AttendCourses=-1 AttendSchool=-1 WifeFound=-1 Married=-1 Sons=2 Daughters=2 Alimony=100 "
@@ -55,6 +69,20 @@ TEST_F(Commands, EachDoesAsItsLineSays)
     run(ShowReadme);
     run(ShowLicence);
     run(StartSysInfo);
+    windowsFolder = folder + "nowhere";
+    run(ShowReadme);
+    windowsFolder = folder;
+    run(ShowReadme);
+    ReplaceFile(folder + "Notepad.exe", "");
+    run(ShowReadme);
+    windowsFolder.clear();
+    settings = {{"MSINFO", folder + "tools"}};
+    run(StartSysInfo);
+    ReplaceFile(folder + "tools\\MSINFO32.EXE", "");
+    run(StartSysInfo);
+    settings["PATH"] = "MSINFO.EXE";
+    run(StartSysInfo);
+    settings.clear();
     run([] { throw RuntimeError{error::Overflow}; }); // nothing leaves the rules
     run([] { throw std::runtime_error("?"); });
     player.answers = {Answer::Yes};

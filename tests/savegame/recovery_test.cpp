@@ -80,8 +80,8 @@ TEST_F(Recovery, OnlyANormalEndOrAnotherLifeRemovesTheFile)
         {"a new game", [] { EnterRules(NewGame); }, false},
         {"killed while a game is asked for",
          [&] { player.games = {std::nullopt}, Meanwhile(KeepLife), EnterRules(LoadGame); }, true},
-        {"a new game after all not", [&] { player.names = {std::nullopt}, EnterRules(NewGame); },
-         true},
+        {"a new game after all not",
+         [&] { player.names = {std::nullopt}, Meanwhile(KeepLife), EnterRules(NewGame); }, true},
         {"a death", [] { EnterRules([] { SetHealth(-50); }); }, false},
         {"from outside, dead",
          [&] {
@@ -113,17 +113,38 @@ TEST_F(Recovery, ADamagedOneIsSetAsideEachProgramHasItsOwnAndABegunDayIsLivedAga
     EXPECT_EQ(DecodeGame(ReadWholeFile(File()))[3], "23:59");
     const auto others = LockFile(folder + "RECOVERY/life-2.lock");
     ReplaceFile(File(2), "of another program that runs");
-    ReplaceFile(folder + "RECOVERY/life-3.QVS", "?");
+    EXPECT_FALSE(LockFile(folder + "nowhere/life.lock"));
+    ReplaceFile(File(3), "?");
+    ReplaceFile(folder + "RECOVERY/life-3.damaged", "an earlier one");
+    ReplaceFile(File(4), EncodeGame(GameState) + "?"); // no number in its last line
+    ReplaceFile(File(5), "?" + EncodeGame(GameState)); // another title
+    ReplaceFile(File(6), "?");
+    MakeDirectory(folder + "RECOVERY/life-6.damaged");
+    std::filesystem::create_symlink("/proc/self/mem", File(7)); // opens, but cannot be read
+    ReplaceFile(folder + "RECOVERY/other.QVS", "");
+    ReplaceFile(folder + "RECOVERY/life-8", "");
     Restart();
-    Texts told = Split(Answered(Answer::No), ", ! ");
-    EXPECT_EQ(ReplaceAll(told.back(), folder, ""),
-              "Прерванная игра: Прошлая игра прервалась, а её файл повреждён. Он отложен: "
-              "RECOVERY/life-3.damaged");
-    EXPECT_TRUE(!IsKept() && FileExists(File(2)) && !FileExists(File(3)));
+    const std::string told = ReplaceAll(Answered(Answer::No), folder + "RECOVERY/life-", "");
+    EXPECT_EQ(Split(told, ": ").front(), "? Прерванная игра");
+    EXPECT_TRUE(told.ends_with(
+        "! Прерванная игра: Прошлая игра прервалась, а её файл повреждён. Он отложен: 5.damaged, "
+        "x Torvenhall: Возникла непредвиденная ошибка № 75 : Ошибка доступа к файлу или папке: "
+        "6.QVS. Программа может некорректно работать. Обратитесь к разработчику!, "
+        "x Torvenhall: Возникла непредвиденная ошибка № 57 : Ошибка ввода-вывода устройства: "
+        "7.QVS. Программа может некорректно работать. Обратитесь к разработчику!"))
+        << told;
+    for (const char* aside : {"3.2", "4", "5"}) {
+        EXPECT_TRUE(FileExists(folder + "RECOVERY/life-" + aside + ".damaged"));
+    }
+    EXPECT_TRUE(!IsKept() && FileExists(File(2)) && FileExists(File(7)) && !FileExists(File(3)));
     ExpectFreshLife("Пётр");
+    ReplaceFile(File(1), "of a program that has stopped meanwhile");
     KeepLife();
-    EXPECT_TRUE(IsKept());
-    ReplaceFile(File(), "?");
+    EXPECT_TRUE(FileExists(File(3))) << "the first that is nobody's";
+    ReplaceFile(File(3), "?");
     KeepLife();
-    EXPECT_EQ(ReadWholeFile(File()), "?") << "what has not changed is not written again";
+    EXPECT_EQ(ReadWholeFile(File(3)), "?") << "what has not changed is not written again";
+    EnterRules(EndFromOutside);
+    KeepLife();
+    EXPECT_EQ(ReadWholeFile(File(3)), "?");
 }
