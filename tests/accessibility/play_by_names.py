@@ -43,9 +43,11 @@ class Player:
                                      for i in range(self.game.childCount))
                    if each and each.getState().contains(pyatspi.STATE_SHOWING)]
         for box in showing:
+            # A question is no surprise: it waits for its answer.
             if box.name != title and box.getRoleName() == "alert":
-                print(f"life brought a box: {box.name}")
-                self.press("OK", box.name)
+                if accept := self.button_of(box, "OK"):
+                    print(f"life brought a box: {box.name}")
+                    self.activate(accept)
         return next((each for each in showing if each.name == title), None)
 
     def window(self, title):
@@ -64,11 +66,20 @@ class Player:
         return window
 
     def find(self, name, title, role="push button"):
-        return wait_for(f'{role} "{name}" in "{title}"', lambda: pyatspi.findDescendant(
-            self.window(title), lambda each: each.getRoleName() == role and each.name == name))
+        return wait_for(f'{role} "{name}" in "{title}"',
+                        lambda: self.button_of(self.window(title), name, role))
+
+    @staticmethod
+    def button_of(window, name, role="push button"):
+        return pyatspi.findDescendant(
+            window, lambda each: each.getRoleName() == role and each.name == name)
 
     def press(self, name, title, role="push button"):
-        actions = self.find(name, title, role).queryAction()
+        self.activate(self.find(name, title, role))
+
+    @staticmethod
+    def activate(control):
+        actions = control.queryAction()
         actions.doAction([actions.getName(i) for i in range(actions.nActions)].index("Press"))
 
     def close(self, title, button):
