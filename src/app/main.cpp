@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <cstdlib>
 #include <iostream>
 #include <optional>
 #include <random>
@@ -19,6 +20,7 @@
 #include "ui/QtFrontEnd.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
+#include "ui/widgets/scale.h"
 #include "ui/widgets/theme.h"
 
 namespace
@@ -26,8 +28,9 @@ namespace
 
 struct Options {
     double fontPoints;
-    QString tourFolder; ///< empty: play
-    QString recordFile; ///< empty: the game is not recorded
+    std::optional<double> scale; ///< the player's or the fitting one
+    QString tourFolder;          ///< empty: play
+    QString recordFile;          ///< empty: the game is not recorded
 };
 
 Options ReadOptions(const QCoreApplication& application)
@@ -38,13 +41,20 @@ Options ReadOptions(const QCoreApplication& application)
     parser.addVersionOption();
     const QCommandLineOption font("font-size", "Size of the desktop font in points.", "points");
     const QCommandLineOption tour("tour", "Save a picture of every window in a folder.", "folder");
+    const QCommandLineOption scale("scale", "Size of everything: 1 to 4 times.", "factor");
     const QCommandLineOption record("record", "Write down what the player does.", "file");
-    parser.addOptions({font, tour, record});
+    parser.addOptions({font, scale, tour, record});
     parser.process(application);
     const double points = parser.value(font).toDouble();
     // The tour runs from wherever its pictures are wanted.
     const QString folder = parser.value(tour);
+    const double factor = parser.value(scale).toDouble();
+    if (parser.isSet(scale) && !(factor >= 1 && factor <= 4)) {
+        std::cerr << "torvenhall: --scale wants a number from 1 to 4\n";
+        std::exit(2);
+    }
     return {points > 0 ? points : torvenhall::DesktopFontPoints(),
+            parser.isSet(scale) ? std::optional(factor) : std::nullopt,
             folder.isEmpty() ? folder : QDir::current().absoluteFilePath(folder),
             parser.value(record)};
 }
@@ -72,6 +82,7 @@ int main(int argc, char** argv)
                     Utf8(UserDataFolder()));
 
     const bool touring = !options.tourFolder.isEmpty();
+    touring ? ApplyScale(options.scale.value_or(1)) : ChooseScale(options.scale);
     constexpr double tourPace = 40; // its waits are not to be sat through
     QtWallClock clock(touring ? tourPace : 1);
     RandomDice dice(std::random_device{}());

@@ -29,16 +29,16 @@ frmAbout::frmAbout(QWidget* parent) : GameWindow("frmAbout", 460, 346, parent)
 {
     setWindowTitle("О Torvenhall 1.5");
     setWindowModality(Qt::ApplicationModal);
-    Surface().ShowPicture(LoadPicture("MAINPICTURE", Surface().size(), devicePixelRatioF()));
+    Surface().ShowPicture("MAINPICTURE");
     AddSlogan("Label1", "Label2", "Torvenhall 1.5 full", {24, 14, 372, 40}, 26);
     AddLabel("Label3", "Версия 1.5 Full для Windows 98 SE/Me", {25, 54, 372, 20},
-             TextFont(12.5, true))
+             TextType(12.5, true))
         ->SetColour(colour::Warm);
     Surface().AddPanel({0, 40, 460, 62}, Scene::Panel::Shade);
     Surface().AddPanel({14, 160, 432, 118});
     double top = 165;
     for (const char* line : Lines) {
-        AddLabel({}, line, {26, top, 408, LineHeight}, TextFont(11.5));
+        AddLabel({}, line, {26, top, 408, LineHeight}, TextType(11.5));
         top += LineHeight;
     }
     GameButton* system = AddButton("Command2", "О системе...", {210, 302, 122, 30});

@@ -40,7 +40,7 @@ frmEducation::frmEducation(QWidget* parent)
 void frmEducation::AddProgramme(const QString& labelName, const QString& text, double top)
 {
     Surface().AddPanel({14, top, PanelWidth, PanelHeight});
-    AddLabel(labelName, text, {26, top + 7, PanelWidth - 24, ButtonTop - 12}, TextFont(11.5))
+    AddLabel(labelName, text, {26, top + 7, PanelWidth - 24, ButtonTop - 12}, TextType(11.5))
         ->setWordWrap(true);
 }
 

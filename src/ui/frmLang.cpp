@@ -7,7 +7,7 @@
 
 #include "game/entry.h"
 #include "resources/basLangMGR.h"
-#include "ui/widgets/metrics.h"
+#include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/theme.h"
 
@@ -20,19 +20,19 @@ frmLang::frmLang(QWidget* parent)
 {
     setWindowTitle("Select Language");
     Surface().AddPanel({12, 12, 356, 306}, Scene::Panel::Deep);
-    AddLabel("Label1", "Present Languages:", {26, 20, 328, 20}, TextFont(12))
+    AddLabel("Label1", "Present Languages:", {26, 20, 328, 20}, TextType(12))
         ->SetColour(colour::Warm);
     list->setObjectName("List1");
     list->setAccessibleName("Present Languages:");
-    list->setGeometry(PxRect({26, 42, 328, 104}));
+    Place(*list, {26, 42, 328, 104});
     for (const std::string& file : LangFiles()) {
         list->addItem(QFileInfo(Text(file)).completeBaseName());
     }
-    AddLabel("Label2", "Language Info:", {26, 152, 328, 20}, TextFont(12))->SetColour(colour::Warm);
+    AddLabel("Label2", "Language Info:", {26, 152, 328, 20}, TextType(12))->SetColour(colour::Warm);
     info->setObjectName("Text1");
     info->setAccessibleName("Language Info:");
     info->setReadOnly(true);
-    info->setGeometry(PxRect({26, 174, 328, 90}));
+    Place(*info, {26, 174, 328, 90});
     auto* files = new QListWidget(&Surface()); // nothing uses it yet
     files->setObjectName("File1");
     files->setAccessibleName("File1");

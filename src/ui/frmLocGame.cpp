@@ -4,8 +4,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 
-#include "ui/widgets/metrics.h"
 #include "ui/widgets/pictures.h"
+#include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/theme.h"
 
@@ -17,9 +17,9 @@ frmLocGame::frmLocGame(const GameNameQuestion& question, QWidget* parent)
       name(new QLineEdit(Text(question.name), &Surface()))
 {
     setWindowTitle(Text(question.caption));
-    Surface().ShowPicture(LoadPicture("SOFTPICTURE", Surface().size(), devicePixelRatioF()));
+    Surface().ShowPicture("SOFTPICTURE");
     Surface().AddPanel({12, 12, 356, 306}, Scene::Panel::Deep);
-    AddLabel("Label1", Text(question.heading), {26, 20, 328, 22}, TextFont(13, true))
+    AddLabel("Label1", Text(question.heading), {26, 20, 328, 22}, TextType(13, true))
         ->SetColour(colour::Warm);
     AddEntries(question);
 
@@ -42,21 +42,21 @@ void frmLocGame::AddEntries(const GameNameQuestion& question)
     list->setObjectName("List1");
     list->setAccessibleName(Text(question.heading));
     const double troubleHeight = question.trouble.empty() ? 0 : 36;
-    list->setGeometry(PxRect({26, 44, 328, 186 - troubleHeight}));
+    Place(*list, {26, 44, 328, 186 - troubleHeight});
     if (!question.trouble.empty()) {
         GameLabel* trouble = AddLabel("Trouble", Text(question.trouble),
-                                      {26, 232 - troubleHeight, 328, troubleHeight}, TextFont(12));
+                                      {26, 232 - troubleHeight, 328, troubleHeight}, TextType(12));
         trouble->SetColour(colour::Warm);
         trouble->setWordWrap(true);
         name->setAccessibleDescription(trouble->text());
     }
-    list->setSpacing(Px(2));
+    SpaceRows(*list);
     for (const std::string& game : question.games) {
         list->addItem(Text(game));
     }
     name->setObjectName("Text1");
     name->setAccessibleName("Название игры");
-    name->setGeometry(PxRect({26, 238, 328, 28}));
+    Place(*name, {26, 238, 328, 28});
     name->setEnabled(question.saving);
     const auto pick = [this](const QListWidgetItem* item) { name->setText(item->text()); };
     connect(list, &QListWidget::itemClicked, this, pick);

@@ -14,8 +14,9 @@
 #include "game/commands.h"
 #include "game/entry.h"
 #include "ui/widgets/gamebutton.h"
-#include "ui/widgets/metrics.h"
+#include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
+#include "ui/widgets/scale.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
@@ -24,12 +25,11 @@ namespace torvenhall
 namespace
 {
 
-// Frame excluded, menu bar included.
-constexpr int WidthTwips = 7765;
-constexpr int HeightTwips = 6630;
+// In twips, of which 15 make a unit; frame excluded, menu bar included.
+constexpr double Width = 7765 / 15.0;
+constexpr double WholeHeight = 6630 / 15.0;
 constexpr double MenuHeight = 22;
-constexpr double Width = WidthTwips / 15.0;
-constexpr double Height = HeightTwips / 15.0 - MenuHeight;
+constexpr double Height = WholeHeight - MenuHeight;
 
 constexpr int TickMilliseconds = 250;
 
@@ -42,7 +42,7 @@ public:
     {
         setObjectName("PauseVeil");
         setAttribute(Qt::WA_TransparentForMouseEvents);
-        setGeometry(parent->rect());
+        Place(*this, {0, 0, Width, Height});
         hide();
     }
 
@@ -73,11 +73,13 @@ frmMain::frmMain() : scene(new Scene(Width, Height, this)), tmrTime(new QTimer(t
 {
     setObjectName("frmMain");
     setWindowTitle("Marshend Torvenhall 1.5");
-    setFixedSize(TwipsPx(WidthTwips), TwipsPx(HeightTwips));
+    Place(*this, {0, 0, Width, WholeHeight});
     setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(scene);
+    Place(*scene, {0, MenuHeight, Width, Height});
     menuBar()->setNativeMenuBar(false);
     menuBar()->setFixedHeight(Px(MenuHeight));
+    ChangeScaleByKeys(this);
 
     BuildClock();
     BuildStatistics();
@@ -147,6 +149,14 @@ void frmMain::closeEvent(QCloseEvent* event)
     if (GameState.Restarting != True) {
         EnterRules(CloseProgram);
     }
+}
+
+void frmMain::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange) {
+        menuBar()->setFixedHeight(Px(MenuHeight)); // the scale has changed
+    }
+    QMainWindow::changeEvent(event);
 }
 
 void frmMain::keyPressEvent(QKeyEvent* event)

@@ -31,6 +31,7 @@ public:
     void EnableTimer(bool enabled);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -48,7 +49,7 @@ private:
     void BuildSettingsMenus();
     void BuildHelpMenu();
 
-    GameLabel* AddLabel(Label label, const QRectF& place, const QFont& font);
+    GameLabel* AddLabel(Label label, const QRectF& place, const Type& type);
     GameLabel* AddCaption(const QString& text, const QRectF& place, double height);
     void AddTile(const QString& caption, Label label, const QRectF& place);
     void AddGauge(const QRectF& tile, Gauge::Kind kind, Gauge::Reading (*reading)());

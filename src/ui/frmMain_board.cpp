@@ -7,7 +7,7 @@
 #include "game/entry.h"
 #include "ui/frmMain.h"
 #include "ui/widgets/gamebutton.h"
-#include "ui/widgets/metrics.h"
+#include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/terminallabel.h"
 #include "ui/widgets/theme.h"
@@ -79,10 +79,10 @@ Gauge::Reading Percent()
 
 } // namespace
 
-GameLabel* frmMain::AddLabel(Label label, const QRectF& place, const QFont& font)
+GameLabel* frmMain::AddLabel(Label label, const QRectF& place, const Type& type)
 {
-    auto* shown = new GameLabel(Text(LabelNames[label]), font, scene);
-    shown->setGeometry(PxRect(place));
+    auto* shown = new GameLabel(Text(LabelNames[label]), type, scene);
+    Place(*shown, place);
     shown->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     labels[label] = shown;
     return shown;
@@ -90,8 +90,8 @@ GameLabel* frmMain::AddLabel(Label label, const QRectF& place, const QFont& font
 
 GameLabel* frmMain::AddCaption(const QString& text, const QRectF& place, double height)
 {
-    auto* caption = new GameLabel({}, TextFont(height), scene);
-    caption->setGeometry(PxRect(place));
+    auto* caption = new GameLabel({}, TextType(height), scene);
+    Place(*caption, place);
     caption->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     caption->SetColour(colour::Caption);
     caption->ShowText(text);
@@ -102,13 +102,13 @@ void frmMain::BuildClock()
 {
     scene->AddPanel({Left, ClockTop, ClockWidth, ClockHeight}, Scene::Panel::Deep);
     GameLabel* time = AddLabel(Label::lblTime, {Left + 10, ClockTop, ClockWidth - 20, ClockHeight},
-                               TerminalFont(17, true));
+                               TerminalType(17, true));
     time->setAlignment(Qt::AlignCenter);
     const double left = Left + ClockWidth + Gap;
     scene->AddPanel({left, ClockTop, Right - left, ClockHeight});
     GameLabel* work =
         AddLabel(Label::lblCurrWork, {left + 9, ClockTop, Right - left - 18, ClockHeight},
-                 TextFont(11.5, true));
+                 TextType(11.5, true));
     work->setAlignment(Qt::AlignCenter);
 }
 
@@ -120,7 +120,7 @@ void frmMain::AddTile(const QString& caption, Label label, const QRectF& place)
     AddCaption(caption, {inside.left(), place.top() + 2, inside.width(), 15}, 10.5);
     const double height = label == Label::lblFamily ? 20 : 18;
     GameLabel* value = AddLabel(label, {inside.left(), place.top() + 15, inside.width(), height},
-                                TextFont(15, true));
+                                TextType(15, true));
     value->SetSpokenCaption(caption);
     if (label == Label::lblMoney) {
         value->FlashChanges();
@@ -130,7 +130,7 @@ void frmMain::AddTile(const QString& caption, Label label, const QRectF& place)
 void frmMain::AddGauge(const QRectF& tile, Gauge::Kind kind, Gauge::Reading (*reading)())
 {
     auto* gauge = new Gauge(kind, reading, scene);
-    gauge->setGeometry(PxRect({tile.left() + 9, tile.top() + 34, tile.width() - 18, 3}));
+    Place(*gauge, {tile.left() + 9, tile.top() + 34, tile.width() - 18, 3});
     gauges.push_back(gauge);
 }
 
@@ -173,7 +173,7 @@ void frmMain::BuildStatistics()
 void frmMain::AddRow(const QString& caption, Label label, const QRectF& place)
 {
     AddCaption(caption, {place.left(), place.top(), CaptionWidth - 5, place.height()}, 10.5);
-    GameLabel* name = AddLabel(label, place.adjusted(CaptionWidth, 0, 0, 0), TextFont(11));
+    GameLabel* name = AddLabel(label, place.adjusted(CaptionWidth, 0, 0, 0), TextType(11));
     name->SetSpokenCaption(QString(caption).remove(':'));
     name->ShowOnHover();
 }
@@ -203,9 +203,9 @@ void frmMain::BuildComputer()
     const double height = ComputerTop + ComputerHeight - settings;
     scene->AddPanel({second, settings, SoftwareWidth, height});
     const double line = height / 2 - 1;
-    AddLabel(Label::lblGameLevel, {second + 9, settings + 1, softwareText, line}, TextFont(10.5));
+    AddLabel(Label::lblGameLevel, {second + 9, settings + 1, softwareText, line}, TextType(10.5));
     AddLabel(Label::lblGameSpeed, {second + 9, settings + 1 + line, softwareText, line},
-             TextFont(10.5));
+             TextType(10.5));
 }
 
 void frmMain::BuildMessageLine()
@@ -213,8 +213,8 @@ void frmMain::BuildMessageLine()
     const QRectF place(Left, MessageTop, Inner, MessageHeight);
     scene->AddPanel(place, Scene::Panel::Deep);
     auto* messageLine =
-        new TerminalLabel(Text(LabelNames[Label::lblMessage]), TerminalFont(11), scene);
-    messageLine->setGeometry(PxRect(place.adjusted(9, 2, -8, -1)));
+        new TerminalLabel(Text(LabelNames[Label::lblMessage]), TerminalType(11), scene);
+    Place(*messageLine, place.adjusted(9, 2, -8, -1));
     messageLine->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     messageLine->setWordWrap(true);
     labels[Label::lblMessage] = messageLine;
@@ -232,7 +232,7 @@ void frmMain::BuildButtons()
         const int column = i % ButtonsInRow, line = i / ButtonsInRow;
         const double left = Left + column * (width + Gap);
         const double top = ButtonsTop + line * (ButtonHeight + Gap);
-        button->setGeometry(PxRect({left, top, width, ButtonHeight}));
+        Place(*button, {left, top, width, ButtonHeight});
         button->SetGlyph(row.glyph);
         button->installEventFilter(this);
         connect(button, &QAbstractButton::clicked, this,

@@ -8,7 +8,7 @@
 #include "game/entry.h"
 #include "network/network.h"
 #include "resources/anecdotes.h"
-#include "ui/widgets/metrics.h"
+#include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/theme.h"
 #include "ui/widgets/waitmark.h"
@@ -53,7 +53,7 @@ GameButton* frmNetwork::AddCommand(const char* name, const QString& caption, con
 {
     GameButton* button = AddButton(name, caption, place);
     button->setParent(panel);
-    button->setGeometry(PxRect(place));
+    Place(*button, place);
     if (command) {
         connect(button, &QAbstractButton::clicked, this, [command] { EnterRules(command); });
     }
@@ -63,30 +63,30 @@ GameButton* frmNetwork::AddCommand(const char* name, const QString& caption, con
 GameLabel* frmNetwork::AddText(const char* name, const QString& text, const QRectF& place,
                                QWidget* panel, double height)
 {
-    GameLabel* label = AddLabel(name, text, place, TextFont(height));
+    GameLabel* label = AddLabel(name, text, place, TextType(height));
     label->setParent(panel);
-    label->setGeometry(PxRect(place));
+    Place(*label, place);
     return label;
 }
 
 void frmNetwork::BuildInternet()
 {
     Surface().AddPanel({14, PanelTop, InternetWidth, PanelHeight});
-    AddLabel("Label9", "Dial-Up Networking", {26, PanelTop + 7, 220, 20}, TextFont(13, true))
+    AddLabel("Label9", "Dial-Up Networking", {26, PanelTop + 7, 220, 20}, TextType(13, true))
         ->SetColour(colour::Warm);
     inetDial = AddCommand("Command1", "Звонить ($1/час)", {26, PanelTop + 31, 150, 27}, &Surface(),
                           DialInternet);
     inetDial->SetGlyph(Glyph::Phone);
     inetDial->SetEnterPresses(false);
     inetStatus =
-        AddLabel("Label1", {}, {186, PanelTop + 29, InternetWidth - 184, 22}, TerminalFont(11.5));
+        AddLabel("Label1", {}, {186, PanelTop + 29, InternetWidth - 184, 22}, TerminalType(11.5));
     inetStatus->SetColour(colour::LightCyan);
     inetMark = new WaitMark(&Surface());
-    inetMark->setGeometry(PxRect({186, PanelTop + 53, InternetWidth - 184, 3}));
+    Place(*inetMark, {186, PanelTop + 53, InternetWidth - 184, 3});
 
     internet = new QWidget(&Surface());
     internet->setObjectName("Picture1");
-    internet->setGeometry(PxRect({14, PanelTop + 64, InternetWidth, PanelHeight - 64}));
+    Place(*internet, {14, PanelTop + 64, InternetWidth, PanelHeight - 64});
     GameButton* home = AddCommand("Command2", "<<< HomePage >>>", {12, 4, InternetWidth - 24, 25},
                                   internet, nullptr);
     connect(home, &QAbstractButton::clicked, this, [this] { ShowSite(-1); });
@@ -105,7 +105,7 @@ QWidget* frmNetwork::AddSite(int location, const QRectF& place)
 {
     auto* panel = new Scene(place.width(), place.height(), internet);
     panel->setObjectName(QString("picLocation%1").arg(location));
-    panel->move(Px(place.left()), Px(place.top()));
+    Place(*panel, place);
     panel->AddPanel({0, 0, place.width(), place.height()}, Scene::Panel::Deep);
     sites[static_cast<std::size_t>(location)] = panel;
     return panel;
@@ -142,8 +142,8 @@ void frmNetwork::BuildSites()
     anecdote->setAccessibleName("Anecdot");
     anecdote->setAcceptRichText(false);
     anecdote->setTabChangesFocus(true);
-    anecdote->setFont(TextFont(12));
-    anecdote->setGeometry(PxRect({10, 34, inner, place.height() - 42}));
+    Dress(*anecdote, TextType(12));
+    Place(*anecdote, {10, 34, inner, place.height() - 42});
 }
 
 void frmNetwork::BuildBoard()
@@ -152,19 +152,19 @@ void frmNetwork::BuildBoard()
     const double left = BoardLeft + 12;
     const double inner = BoardWidth - 24;
     AddLabel("Label10", "Microsoft HyperTerminal", {left, PanelTop + 7, inner, 20},
-             TextFont(13, true))
+             TextType(13, true))
         ->SetColour(colour::Warm);
     bbsDial =
         AddCommand("Command5", "Звонить", {left, PanelTop + 31, inner, 27}, &Surface(), DialBoard);
     bbsDial->SetGlyph(Glyph::Phone);
-    bbsStatus = AddLabel("Label2", {}, {left, PanelTop + 62, inner, 22}, TerminalFont(11.5));
+    bbsStatus = AddLabel("Label2", {}, {left, PanelTop + 62, inner, 22}, TerminalType(11.5));
     bbsStatus->SetColour(colour::LightCyan);
     bbsMark = new WaitMark(&Surface());
-    bbsMark->setGeometry(PxRect({left, PanelTop + 86, inner, 3}));
+    Place(*bbsMark, {left, PanelTop + 86, inner, 3});
 
     bulletin = new QWidget(&Surface());
     bulletin->setObjectName("Picture2");
-    bulletin->setGeometry(PxRect({BoardLeft, PanelTop + 98, BoardWidth, 76}));
+    Place(*bulletin, {BoardLeft, PanelTop + 98, BoardWidth, 76});
     AddCommand("cmdBBSDownload", "Download Soft", {12, 4, inner, 28}, bulletin, ReceiveFromBoard)
         ->SetGlyph(Glyph::Download);
     AddCommand("cmdBBSUpload", "Upload Soft", {12, 38, inner, 28}, bulletin, SendToBoard)
@@ -207,7 +207,9 @@ void frmNetwork::ShowSite(int location)
     for (int i = 0; i < Sites; ++i) {
         QWidget* site = sites[static_cast<std::size_t>(i)];
         // Hidden too: a panel out of sight must not take the focus.
-        site->move(Px(i == location ? SiteShown : SiteHidden), site->y());
+        QRectF place = PlaceOf(*site);
+        place.moveLeft(i == location ? SiteShown : SiteHidden);
+        Place(*site, place);
         site->setVisible(i == location);
     }
 }

@@ -11,7 +11,7 @@ namespace torvenhall
 frmPause::frmPause(QWidget* parent) : GameWindow("frmPause", 320, 204, parent)
 {
     setWindowTitle("Игра приостановлена");
-    Surface().ShowPicture(LoadPicture("MAINPICTURE", Surface().size(), devicePixelRatioF()));
+    Surface().ShowPicture("MAINPICTURE");
     AddSlogan("Label1", "Label2", "Игра приостановлена", {24, 12, 272, 40}, 20);
     Surface().AddPanel({36, 62, 248, 126});
     GameButton* resume = AddButton("Command1", "Продолжить", {50, 74, 220, 30});

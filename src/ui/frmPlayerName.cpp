@@ -6,8 +6,8 @@
 #include <QLineEdit>
 #include <QTimer>
 
-#include "ui/widgets/metrics.h"
 #include "ui/widgets/pictures.h"
+#include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/theme.h"
 
@@ -18,16 +18,16 @@ frmPlayerName::frmPlayerName(const NewPlayer& shown, QWidget* parent)
     : GameWindow("frmPlayerName", 500, 412, parent)
 {
     setWindowTitle("Имя игрока");
-    Surface().ShowPicture(LoadPicture("MAINPICTURE", Surface().size(), devicePixelRatioF()));
+    Surface().ShowPicture("MAINPICTURE");
     Surface().AddPanel({14, 152, 472, 246});
 
-    AddLabel("Label1", "Введите Ваше имя:", {30, 164, 240, 20}, TextFont(13, true))
+    AddLabel("Label1", "Введите Ваше имя:", {30, 164, 240, 20}, TextType(13, true))
         ->SetColour(colour::LightCyan);
     name = new QLineEdit(Text(shown.name), &Surface());
     name->setObjectName("Text1");
     name->setAccessibleName("Имя");
-    name->setFont(TextFont(13));
-    name->setGeometry(PxRect({30, 188, 282, 28}));
+    Dress(*name, TextType(13));
+    Place(*name, {30, 188, 282, 28});
     name->installEventFilter(this);
     level = new QComboBox(&Surface());
     level->setObjectName("Combo1");
@@ -37,7 +37,7 @@ frmPlayerName::frmPlayerName(const NewPlayer& shown, QWidget* parent)
     level->view()->setAccessibleName("Уровень сложности");
     level->addItems({"Сложный", "Нормальный", "Простой"});
     level->setCurrentIndex(shown.level);
-    level->setGeometry(PxRect({322, 188, 148, 28}));
+    Place(*level, {322, 188, 148, 28});
     AddLabel("Label2",
              "Введите Ваше имя и выберите уровень сложности, нажмите ОК и играйте!\n"
              "\n"
@@ -46,7 +46,7 @@ frmPlayerName::frmPlayerName(const NewPlayer& shown, QWidget* parent)
              "Пауза — клавиша «p» (русская «з»): часы ждать не станут.\n"
              "Сохраняйтесь почаще: Ctrl+S.\n"
              "Советы на первую неделю — в справке, F1.",
-             {30, 224, 440, 126}, TextFont(11.5))
+             {30, 224, 440, 126}, TextType(11.5))
         ->setWordWrap(true);
 
     GameButton* accept = AddButton("Command1", "OK", {262, 356, 100, 30});

@@ -5,8 +5,8 @@
 
 #include "activities/virus.h"
 #include "game/entry.h"
-#include "ui/widgets/metrics.h"
 #include "ui/widgets/pictures.h"
+#include "ui/widgets/placing.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
@@ -16,6 +16,20 @@ namespace
 {
 constexpr double Width = 400;
 constexpr double Height = 300;
+
+/// The virus, as large as its place.
+class Portrait : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void resizeEvent(QResizeEvent*) override
+    {
+        setPixmap(LoadPicture("VIRUSPICTURE", size(), devicePixelRatioF()));
+    }
+};
+
 } // namespace
 
 frmVirus::frmVirus(QWidget* parent) : GameWindow("frmVirus", Width, Height, parent)
@@ -23,17 +37,16 @@ frmVirus::frmVirus(QWidget* parent) : GameWindow("frmVirus", Width, Height, pare
     setWindowTitle("Внимание! Вирус!");
     setWindowModality(Qt::ApplicationModal);
 
-    auto* picture = new QLabel(&Surface());
+    auto* picture = new Portrait(&Surface());
     picture->setObjectName("Image1");
-    picture->setGeometry(Surface().rect());
     picture->setScaledContents(true);
-    picture->setPixmap(LoadPicture("VIRUSPICTURE", Surface().size(), devicePixelRatioF()));
+    Place(*picture, {0, 0, Width, Height});
     auto* panel = new Scene(Width - 24, 84, &Surface());
-    panel->move(Px(12), Px(Height - 84 - 12));
+    Place(*panel, {12, Height - 84 - 12, Width - 24, 84});
     panel->AddPanel({0, 0, Width - 24, 84}, Scene::Panel::Deep);
 
     GameLabel* text = AddLabel("Label1", "На Вашем компьютере обнаружен злой вирус!",
-                               {24, Height - 88, Width - 48, 26}, TextFont(14, true));
+                               {24, Height - 88, Width - 48, 26}, TextType(14, true));
     text->setAlignment(Qt::AlignCenter);
     text->SetColour(colour::LightCyan);
     GameButton* kill = AddButton("Command1", "Убить антивирусником", {24, Height - 54, 172, 30});

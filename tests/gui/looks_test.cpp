@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 #include <QLabel>
 #include <QMenuBar>
+#include <QSettings>
 
 #include <cmath>
 
@@ -15,6 +16,7 @@
 #include "ui/widgets/gamebutton.h"
 #include "ui/widgets/gamelabel.h"
 #include "ui/widgets/metrics.h"
+#include "ui/widgets/scale.h"
 
 using namespace torvenhall;
 using namespace torvenhall::test;
@@ -274,4 +276,39 @@ TEST_F(Looks, EveryTextCanBeReadOnWhatLiesBehindIt)
     SetEatLevel(50);
     SetHealth(50);
     ForEachWindow(ExpectReadable);
+}
+
+/// Not looked at in every scale and font: it goes through them itself.
+struct Scales : Looks {
+};
+
+TEST_F(Scales, EveryWindowChangesItsScaleByKeysAndIsAsBeforeAfterwards)
+{
+    ShowTheLongestTexts();
+    QTest::qWait(300); // no number is lit up any more
+    const double scale = UnitScale();
+    ForEachWindow([&](QWidget& window) {
+        EXPECT_TRUE(Until([&] { return QApplication::activeWindow() == &window; }));
+        const QImage before = window.grab().toImage();
+        for (const auto& [key, larger] : {std::pair{Qt::Key_Plus, 1.25}, {Qt::Key_Equal, 1.5}}) {
+            QTest::keyClick(&window, key, Qt::ControlModifier);
+            Settle();
+            EXPECT_DOUBLE_EQ(UnitScale(), scale * larger);
+            ExpectWhole(window);
+        }
+        EXPECT_GT(window.width(), before.width() / window.devicePixelRatioF() * 1.3);
+        QTest::keyClick(&window, Qt::Key_Minus, Qt::ControlModifier);
+        EXPECT_EQ(QSettings(QSettings::IniFormat, QSettings::UserScope, "torvenhall", "torvenhall")
+                      .value("scale"),
+                  1.25);
+        QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
+        Settle();
+        const QImage after = window.grab().toImage();
+        // The toolkit lays out a box's text by half a pixel.
+        EXPECT_TRUE(window.inherits("QMessageBox") ? after.size() == before.size()
+                                                   : after == before);
+    });
+    EXPECT_EQ(FittingScale({0, 0, 1920, 1080}), 2);
+    EXPECT_EQ(FittingScale({0, 0, 1024, 600}), 1);
+    EXPECT_EQ(FittingScale({0, 0, 7680, 4320}), 4);
 }

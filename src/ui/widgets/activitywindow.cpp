@@ -47,7 +47,7 @@ void ActivityWindow::AddChoices(const Group& group,
     if (!group.caption.isEmpty()) {
         AddLabel(group.captionName, group.caption,
                  {inside.left() + 1, inside.top() - 1, inside.width(), CaptionHeight - 2},
-                 TextFont(13, true))
+                 TextType(13, true))
             ->SetColour(colour::Warm);
     }
     const double column = (inside.width() - (group.columns - 1) * ChoiceGap) / group.columns;
@@ -80,8 +80,8 @@ void ActivityWindow::AddStripItem(int index, const QString& caption, Label label
     const double item = (stripWidth - 12) / 4;
     const double left = Margin + 10 + index * item;
     const double top = height - Margin - StripHeight;
-    AddLabel({}, caption, {left, top + 1, item - 8, 14}, TextFont(9.5))->SetColour(colour::Caption);
-    GameLabel* value = AddLabel({}, {}, {left, top + 13, item - 8, 15}, TextFont(12.5, true));
+    AddLabel({}, caption, {left, top + 1, item - 8, 14}, TextType(9.5))->SetColour(colour::Caption);
+    GameLabel* value = AddLabel({}, {}, {left, top + 13, item - 8, 15}, TextType(12.5, true));
     value->SetSpokenCaption(caption);
     if (label == Label::lblMoney) {
         value->FlashChanges();

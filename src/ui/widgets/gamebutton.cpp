@@ -5,7 +5,7 @@
 #include <QPainter>
 
 #include "ui/widgets/fittext.h"
-#include "ui/widgets/metrics.h"
+#include "ui/widgets/placing.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
@@ -24,7 +24,7 @@ GameButton::GameButton(const QString& controlName, const QString& caption, QWidg
     setObjectName(controlName);
     setAutoDefault(false);
     setDefault(false);
-    setFont(TextFont(12));
+    Dress(*this, TextType(12));
     setCursor(Qt::PointingHandCursor);
 }
 

@@ -7,7 +7,7 @@
 
 #include "core/shown.h"
 #include "ui/widgets/fittext.h"
-#include "ui/widgets/metrics.h"
+#include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/theme.h"
 
@@ -22,12 +22,12 @@ constexpr int FlashMilliseconds = 250;
 
 } // namespace
 
-GameLabel::GameLabel(const QString& controlName, const QFont& font, QWidget* parent)
+GameLabel::GameLabel(const QString& controlName, const Type& type, QWidget* parent)
     : QLabel(parent), colour(colour::Text)
 {
     setObjectName(controlName);
     setTextFormat(Qt::PlainText);
-    setFont(font);
+    Dress(*this, type);
 }
 
 void GameLabel::SetColour(const QColor& newColour)

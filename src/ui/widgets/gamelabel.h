@@ -4,6 +4,7 @@
 #include <QLabel>
 
 #include "core/labels.h"
+#include "ui/widgets/metrics.h"
 
 namespace torvenhall
 {
@@ -14,7 +15,7 @@ namespace torvenhall
 class GameLabel : public QLabel
 {
 public:
-    GameLabel(const QString& controlName, const QFont& font, QWidget* parent);
+    GameLabel(const QString& controlName, const Type& type, QWidget* parent);
 
     void SetColour(const QColor& colour);
     QColor Colour() const { return colour; }

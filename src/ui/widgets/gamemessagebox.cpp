@@ -1,13 +1,16 @@
 #include "ui/widgets/gamemessagebox.h"
 
 #include <QCloseEvent>
+#include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QPushButton>
 
 #include "ui/widgets/helpkey.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
+#include "ui/widgets/scale.h"
 
 namespace torvenhall
 {
@@ -48,24 +51,59 @@ GameMessageBox::GameMessageBox(const MessageBox& box, QWidget* parent)
     } else {
         button(QMessageBox::Ok)->setText("OK");
     }
+    Arrange();
+    OpenManualByKey(this);
+    ChangeScaleByKeys(this);
+}
+
+void GameMessageBox::Arrange()
+{
+    setIcon(icon()); // in its size at this scale
     for (QAbstractButton* each : buttons()) {
         each->setIcon({});
         each->setMinimumSize(Px(84), Px(26));
     }
-    WidenForTitle();
-    OpenManualByKey(this);
+    // The toolkit's own width is the screen's matter, not the scale's, and some
+    // titles are longer than their text.
+    auto* label = findChild<QLabel*>("qt_msgbox_label");
+    const QFontMetrics metrics(font());
+    const int natural = metrics.boundingRect({}, Qt::AlignLeft, text()).width() + Px(4);
+    const int title = metrics.horizontalAdvance(windowTitle()) + Px(40);
+    const int width = std::max({Px(200), std::min(natural, Px(380)), title});
+    label->setWordWrap(true);
+    label->setFixedSize(width, label->heightForWidth(width));
+    // What the buttons need now must reach the box at once.
+    auto* row = findChild<QDialogButtonBox*>();
+    row->layout()->invalidate();
+    row->layout()->activate();
+    row->updateGeometry();
+    TakeSize();
 }
 
-void GameMessageBox::WidenForTitle()
+void GameMessageBox::TakeSize()
 {
-    // The box is as wide as its text, and some titles are longer than that.
-    if (auto* label = findChild<QLabel*>("qt_msgbox_label")) {
-        const int wanted =
-            std::max(Px(200), fontMetrics().horizontalAdvance(windowTitle()) + Px(40));
-        if (label->sizeHint().width() < wanted) {
-            label->setMinimumWidth(wanted);
-        }
+    findChild<QLabel*>("qt_msgbox_label")->setWordWrap(true);
+    layout()->activate();
+    setFixedSize(layout()->totalMinimumSize());
+}
+
+bool GameMessageBox::event(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest) {
+        TakeSize(); // the base class would choose another width
+        return QDialog::event(event);
     }
+    const bool taken = QMessageBox::event(event);
+    if (event->type() == QEvent::FontChange) {
+        Arrange();
+    }
+    return taken;
+}
+
+void GameMessageBox::showEvent(QShowEvent* event)
+{
+    QMessageBox::showEvent(event);
+    TakeSize();
 }
 
 Answer GameMessageBox::PressedAnswer() const

@@ -18,12 +18,15 @@ public:
     Answer PressedAnswer() const;
 
 protected:
+    bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void reject() override;
 
 private:
-    void WidenForTitle();
+    void Arrange();
+    void TakeSize();
 
     bool mustAnswer;
 };

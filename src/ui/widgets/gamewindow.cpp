@@ -3,7 +3,8 @@
 #include <QCloseEvent>
 
 #include "ui/widgets/helpkey.h"
-#include "ui/widgets/metrics.h"
+#include "ui/widgets/placing.h"
+#include "ui/widgets/scale.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
@@ -15,16 +16,17 @@ GameWindow::GameWindow(const QString& name, double width, double height, QWidget
       scene(new Scene(width, height, this)), widthUnits(width), heightUnits(height)
 {
     setObjectName(name);
-    setFixedSize(scene->size());
+    Place(*this, {0, 0, width, height});
     setSizeGripEnabled(false);
     OpenManualByKey(this);
+    ChangeScaleByKeys(this);
 }
 
 GameLabel* GameWindow::AddLabel(const QString& name, const QString& text, const QRectF& place,
-                                const QFont& font)
+                                const Type& type)
 {
-    auto* label = new GameLabel(name, font, scene);
-    label->setGeometry(PxRect(place));
+    auto* label = new GameLabel(name, type, scene);
+    Place(*label, place);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     label->ShowText(text);
     return label;
@@ -33,18 +35,18 @@ GameLabel* GameWindow::AddLabel(const QString& name, const QString& text, const 
 GameButton* GameWindow::AddButton(const QString& name, const QString& caption, const QRectF& place)
 {
     auto* button = new GameButton(name, caption, scene);
-    button->setGeometry(PxRect(place));
+    Place(*button, place);
     return button;
 }
 
 void GameWindow::AddSlogan(const QString& name, const QString& shadowName, const QString& text,
                            const QRectF& place, double height)
 {
-    const QFont font = TextFont(height, true);
+    const Type type = TextType(height, true);
     scene->AddPanel({0, 0, widthUnits, place.bottom() + 26}, Scene::Panel::Shade);
-    GameLabel* shadow = AddLabel(shadowName, text, place.translated(1.6, 1.8), font);
+    GameLabel* shadow = AddLabel(shadowName, text, place.translated(1.6, 1.8), type);
     shadow->SetColour(QColor(0, 0, 0, 210));
-    GameLabel* slogan = AddLabel(name, text, place, font);
+    GameLabel* slogan = AddLabel(name, text, place, type);
     slogan->SetColour(colour::LightCyan);
 }
 

@@ -41,7 +41,7 @@ protected:
     virtual bool Closable() const { return true; }
     Scene& Surface() { return *scene; }
     GameLabel* AddLabel(const QString& name, const QString& text, const QRectF& place,
-                        const QFont& font);
+                        const Type& type);
     GameButton* AddButton(const QString& name, const QString& caption, const QRectF& place);
     /// The slogan, drawn by two labels of the same text, the second one its
     /// shadow.

@@ -2,7 +2,7 @@
 
 #include <QLineEdit>
 
-#include "ui/widgets/metrics.h"
+#include "ui/widgets/placing.h"
 
 namespace torvenhall
 {
@@ -12,11 +12,11 @@ InputWindow::InputWindow(const QString& prompt, const QString& title, QWidget* p
 {
     setWindowTitle(title);
     Surface().AddPanel({10, 10, 310, 104}, Scene::Panel::Deep);
-    AddLabel("Prompt", prompt, {22, 16, 286, 24}, TextFont(12));
+    AddLabel("Prompt", prompt, {22, 16, 286, 24}, TextType(12));
     entry = new QLineEdit(&Surface());
     entry->setObjectName("Text1");
     entry->setAccessibleName(prompt);
-    entry->setGeometry(PxRect({22, 42, 286, 26}));
+    Place(*entry, {22, 42, 286, 26});
     GameButton* accept = AddButton("Command1", "OK", {112, 78, 94, 28});
     GameButton* cancel = AddButton("Command2", "Отмена", {214, 78, 94, 28});
     connect(accept, &QAbstractButton::clicked, this, &QDialog::accept);

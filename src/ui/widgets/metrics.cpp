@@ -16,9 +16,9 @@ namespace
 
 constexpr double UsualPoints = 9;
 constexpr double UsualDpi = 96;
-constexpr double TwipsPerUnit = 15;
 
 double desktopPoints = UsualPoints;
+double playerScale = 1;
 
 } // namespace
 
@@ -45,11 +45,21 @@ double DesktopFontPoints()
     return points > 0 ? points : UsualPoints;
 }
 
+void SetPlayerScale(double scale)
+{
+    playerScale = scale;
+}
+
+double PlayerScale()
+{
+    return playerScale;
+}
+
 double UnitScale()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     const double dpi = screen ? screen->logicalDotsPerInchX() : UsualDpi;
-    return dpi / UsualDpi * desktopPoints / UsualPoints;
+    return dpi / UsualDpi * desktopPoints / UsualPoints * playerScale;
 }
 
 int Px(double units)
@@ -69,28 +79,33 @@ QSize PxSize(double width, double height)
     return {Px(width), Px(height)};
 }
 
-int TwipsPx(int twips)
+int FontPx(double height)
 {
-    return Px(twips / TwipsPerUnit);
+    return std::max(1, Px(height));
 }
 
-QFont TextFont(double units, bool bold)
+QFont Type::Font() const
 {
     QFont font;
-    font.setFamilies({"Liberation Sans", "DejaVu Sans", "Arial", "sans-serif"});
-    font.setPixelSize(std::max(1, Px(units)));
+    if (terminal) {
+        font.setFamilies({"Liberation Mono", "DejaVu Sans Mono", "Consolas", "monospace"});
+        font.setStyleHint(QFont::Monospace);
+    } else {
+        font.setFamilies({"Liberation Sans", "DejaVu Sans", "Arial", "sans-serif"});
+    }
+    font.setPixelSize(FontPx(height));
     font.setBold(bold);
     return font;
 }
 
-QFont TerminalFont(double units, bool bold)
+Type TextType(double height, bool bold)
 {
-    QFont font;
-    font.setFamilies({"Liberation Mono", "DejaVu Sans Mono", "Consolas", "monospace"});
-    font.setStyleHint(QFont::Monospace);
-    font.setPixelSize(std::max(1, Px(units)));
-    font.setBold(bold);
-    return font;
+    return {height, bold};
+}
+
+Type TerminalType(double height, bool bold)
+{
+    return {height, bold, true};
 }
 
 } // namespace torvenhall

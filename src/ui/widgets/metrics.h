@@ -8,7 +8,7 @@ namespace torvenhall
 {
 
 // All geometry is laid out in units: 1/96 inch of the logical resolution,
-// grown with the player's desktop font. 15 twips make one unit.
+// grown with the player's desktop font and scale. 15 twips make one unit.
 
 /// The size of the player's desktop font in points; above the usual 9 the
 /// whole layout grows in proportion. Set before the first window is made.
@@ -16,16 +16,28 @@ void SetDesktopFontPoints(double points);
 /// What the desktop's own settings say; 9 when they say nothing.
 double DesktopFontPoints();
 
+/// The player's own magnification, 1 or more (widgets/scale.h applies it).
+void SetPlayerScale(double scale);
+double PlayerScale();
+
 /// Toolkit pixels per unit.
 double UnitScale();
 /// Units in whole toolkit pixels.
 int Px(double units);
 QRect PxRect(const QRectF& units);
 QSize PxSize(double width, double height);
-int TwipsPx(int twips);
 
-/// The game's typeface and the message line's, their height in units.
-QFont TextFont(double units, bool bold = false);
-QFont TerminalFont(double units, bool bold = false);
+/// A typeface, its height in units.
+struct Type {
+    double height;
+    bool bold = false;
+    bool terminal = false; ///< every character is as wide as another
+    QFont Font() const;
+};
+/// The game's type and the message line's.
+Type TextType(double height, bool bold = false);
+Type TerminalType(double height, bool bold = false);
+/// A type's height in whole toolkit pixels.
+int FontPx(double height);
 
 } // namespace torvenhall

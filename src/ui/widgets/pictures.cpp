@@ -7,8 +7,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "resources/modJpegInside.h"
+#include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
 
 // A library's resources are registered by name, which must be in the global
@@ -40,18 +42,6 @@ QPixmap Decode(const QByteArray& jpeg, QSize wanted, double pixelRatio)
     return picture;
 }
 
-QPixmap DecodeOnce(std::string_view name, const QByteArray& jpeg, QSize size, double pixelRatio)
-{
-    static QHash<QString, QPixmap> decoded;
-    const QString place =
-        QString("%1 %2x%3@%4").arg(Text(name)).arg(size.width()).arg(size.height()).arg(pixelRatio);
-    QPixmap& picture = decoded[place];
-    if (picture.isNull() && !jpeg.isEmpty()) {
-        picture = Decode(jpeg, size, pixelRatio);
-    }
-    return picture;
-}
-
 /// The pixel no brighter than a relative luminance, in its own hue.
 QRgb Dimmed(QRgb pixel, double brightest)
 {
@@ -79,16 +69,26 @@ QByteArray EmbeddedPicture(std::string_view name)
     return QByteArray::fromRawData(reinterpret_cast<const char*>(resource.data()), resource.size());
 }
 
-QPixmap LoadBackground(std::string_view key, QSize size, double pixelRatio)
+bool TakePictureStep(std::string_view key)
 {
     const QByteArray jpeg = EmbeddedPicture(std::string(key) + "PICTURE");
-    const bool isThere = LoadFormPicture(key, std::as_bytes(std::span(jpeg)));
-    return isThere ? DecodeOnce(key, jpeg, size, pixelRatio) : QPixmap();
+    return LoadFormPicture(key, std::as_bytes(std::span(jpeg)));
 }
 
 QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio)
 {
-    return DecodeOnce(name, EmbeddedPicture(name), size, pixelRatio);
+    static QHash<QString, QPixmap> decoded;
+    static double scale = 0;
+    if (std::exchange(scale, UnitScale()) != UnitScale()) {
+        decoded.clear(); // no picture is wanted in its old size again
+    }
+    const QString place =
+        QString("%1 %2x%3@%4").arg(Text(name)).arg(size.width()).arg(size.height()).arg(pixelRatio);
+    QPixmap& picture = decoded[place];
+    if (const QByteArray jpeg = EmbeddedPicture(name); picture.isNull() && !jpeg.isEmpty()) {
+        picture = Decode(jpeg, size, pixelRatio);
+    }
+    return picture;
 }
 
 QPixmap Frosted(const QPixmap& picture, double brightest)

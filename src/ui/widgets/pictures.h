@@ -13,12 +13,12 @@ namespace torvenhall
 /// there is none.
 QByteArray EmbeddedPicture(std::string_view name);
 
-/// A window's background, filling a size in toolkit pixels. Every call runs
-/// the picture step of the rules for its effects; the picture itself is
-/// decoded and scaled once. Null when there is none.
-QPixmap LoadBackground(std::string_view key, QSize size, double pixelRatio);
+/// Runs the picture step of the rules, for its effects, on a window's
+/// background; false when there is no such picture.
+bool TakePictureStep(std::string_view key);
 
-/// A picture that is not a window's background, by its embedded name.
+/// A picture by its embedded name, filling a size in toolkit pixels; decoded and
+/// scaled once. Null when there is none.
 QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio);
 
 /// The same picture as seen through frosted glass, its lights dimmed to a

@@ -3,8 +3,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include "ui/widgets/metrics.h"
 #include "ui/widgets/pictures.h"
+#include "ui/widgets/placing.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
@@ -54,19 +54,19 @@ void PaintGlass(QPainter& painter, const QRectF& place, const QPixmap& frosted, 
 
 Scene::Scene(double width, double height, QWidget* parent) : QWidget(parent)
 {
-    setFixedSize(PxSize(width, height));
+    Place(*this, {0, 0, width, height});
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 void Scene::LoadBackground(std::string_view key)
 {
-    ShowPicture(torvenhall::LoadBackground(key, size(), devicePixelRatioF()));
+    ShowPicture(TakePictureStep(key) ? std::string(key) + "PICTURE" : "");
 }
 
-void Scene::ShowPicture(const QPixmap& newPicture)
+void Scene::ShowPicture(std::string_view name)
 {
-    if (picture.cacheKey() != newPicture.cacheKey()) {
-        picture = newPicture;
+    if (picture != name) {
+        picture = name;
         composed = {};
         update();
     }
@@ -86,15 +86,16 @@ void Scene::Compose()
     QPainter painter(&composed);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), colour::Night);
-    if (!picture.isNull()) {
-        painter.drawPixmap(rect(), picture);
+    const QPixmap shown = LoadPicture(picture, size(), ratio);
+    if (!shown.isNull()) {
+        painter.drawPixmap(rect(), shown);
     }
     for (const Panel kind : {Panel::Shade, Panel::Glass, Panel::Deep}) {
-        PaintPlates(painter, kind);
+        PaintPlates(painter, kind, shown);
     }
 }
 
-void Scene::PaintPlates(QPainter& painter, Panel kind) const
+void Scene::PaintPlates(QPainter& painter, Panel kind, const QPixmap& behind) const
 {
     QPixmap frosted;
     for (const Plate& plate : plates) {
@@ -105,8 +106,8 @@ void Scene::PaintPlates(QPainter& painter, Panel kind) const
             PaintShade(painter, PxRect(plate.place));
             continue;
         }
-        if (frosted.isNull() && !picture.isNull()) {
-            frosted = Frosted(picture, kind == Panel::Deep ? BrightestDeep : BrightestGlass);
+        if (frosted.isNull() && !behind.isNull()) {
+            frosted = Frosted(behind, kind == Panel::Deep ? BrightestDeep : BrightestGlass);
         }
         PaintGlass(painter, PxRect(plate.place), frosted,
                    kind == Panel::Deep ? colour::PanelDeep : colour::Panel);
@@ -115,7 +116,8 @@ void Scene::PaintPlates(QPainter& painter, Panel kind) const
 
 void Scene::paintEvent(QPaintEvent*)
 {
-    if (composed.isNull() || composed.devicePixelRatio() != devicePixelRatioF()) {
+    const double ratio = devicePixelRatioF();
+    if (composed.devicePixelRatio() != ratio || composed.size() != size() * ratio) {
         Compose();
     }
     QPainter(this).drawPixmap(0, 0, composed);

@@ -4,6 +4,7 @@
 #include <QRectF>
 #include <QWidget>
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -24,7 +25,8 @@ public:
 
     /// Loads the background of a window by its picture key.
     void LoadBackground(std::string_view key);
-    void ShowPicture(const QPixmap& newPicture);
+    /// Shows a picture by its embedded name.
+    void ShowPicture(std::string_view name);
     /// Adds a panel; place in units.
     void AddPanel(const QRectF& place, Panel kind = Panel::Glass);
 
@@ -37,10 +39,10 @@ private:
         Panel kind;
     };
     void Compose();
-    void PaintPlates(QPainter& painter, Panel kind) const;
+    void PaintPlates(QPainter& painter, Panel kind, const QPixmap& behind) const;
 
-    QPixmap picture;
-    QPixmap composed; ///< picture and panels, ready to be copied to the screen
+    std::string picture; ///< its embedded name
+    QPixmap composed;    ///< picture and panels, ready to be copied to the screen
     std::vector<Plate> plates;
 };
 

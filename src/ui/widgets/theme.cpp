@@ -72,10 +72,21 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override
     {
-        if (metric == PM_MessageBoxIconSize) {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        switch (metric) {
+        case PM_MessageBoxIconSize:
             return Px(36);
+        case PM_LayoutLeftMargin:
+        case PM_LayoutRightMargin:
+        case PM_LayoutTopMargin:
+        case PM_LayoutBottomMargin:
+        case PM_LayoutHorizontalSpacing:
+        case PM_LayoutVerticalSpacing:
+        case PM_ScrollBarExtent:
+            return Px(usual);
+        default:
+            return usual;
         }
-        return QProxyStyle::pixelMetric(metric, option, widget);
     }
 
 private:
@@ -125,7 +136,7 @@ void ApplyTheme(QApplication& application)
 {
     application.setStyle(new GameStyle);
     application.setPalette(GamePalette());
-    application.setFont(TextFont(12));
+    application.setFont(TextType(12).Font());
 }
 
 } // namespace torvenhall

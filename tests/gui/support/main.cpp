@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QSettings>
+#include <QTemporaryDir>
+
 #include "app/application.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/theme.h"
@@ -12,6 +15,8 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    const QTemporaryDir settings; // the player's own stay alone
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     torvenhall::Application::Prepare();
     torvenhall::Application application(argc, argv);
     const double points = qEnvironmentVariable("TORVENHALL_TEST_FONT").toDouble();
@@ -19,6 +24,7 @@ int main(int argc, char** argv)
         torvenhall::SetDesktopFontPoints(points);
     }
     torvenhall::ApplyTheme(application);
+    QApplication::setCursorFlashTime(0); // pictures are compared
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
