@@ -1,6 +1,7 @@
 #include "app/application.h"
 
 #include <QIcon>
+#include <QLibraryInfo>
 #include <QSocketNotifier>
 
 #include <chrono>
@@ -39,6 +40,10 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
         icon.addFile(QString(":/icon/") + size);
     }
     setWindowIcon(icon);
+    // The toolkit's own words, in the menus of text fields.
+    if (words.load("qtbase_ru", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        installTranslator(&words);
+    }
 }
 
 bool Application::notify(QObject* receiver, QEvent* event)

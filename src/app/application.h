@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <QTranslator>
 
 namespace torvenhall
 {
@@ -27,6 +28,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    QTranslator words;
     QTimer keeping;
     bool sessionEnds = false;
 };

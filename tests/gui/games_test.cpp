@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 
 #include "support/play.h"
 
@@ -92,7 +93,14 @@ TEST_F(Games, APausedLifeIsSavedAndContinuedAfterAnotherOne)
     auto& button = Control("frmMain", "cmdShop");
     EXPECT_TRUE(veil.isVisible() && veil.geometry() == veil.parentWidget()->rect());
     EXPECT_EQ(veil.parentWidget()->childAt(button.geometry().center()), &button);
-    player.SavesAs("Жизнь");
+    player.When("frmLocGame", [] {
+        auto& name = Control<QLineEdit>("frmLocGame", "Text1");
+        const QMenu* menu = name.createStandardContextMenu();
+        EXPECT_EQ(menu->actions().first()->text().section('\t', 0, 0).remove('&'),
+                  "Отменить действие");
+        Type(name, "Жизнь");
+        Click("frmLocGame", "Command1");
+    });
     Click("frmPause", "Command2");
     // A mark at the beginning is part of the name.
     QDir(Folder() + "SAVE").rename("Жизнь.QVS", QChar(QChar::ByteOrderMark) + QString("Жизнь.QVS"));
