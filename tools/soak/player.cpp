@@ -217,6 +217,7 @@ void Player::StartProgram()
 {
     ++starts;
     window.Reset();
+    lifeSeen = -1; // each program counts its lives anew
     ResetRules();
     Connect({&window, &dice, &window});
     SetDirectories(TORVENHALL_ASSETS, folder);

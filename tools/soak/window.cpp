@@ -51,7 +51,7 @@ void Window::MustNotHaveEnded(std::string_view call) const
 void Window::Reset()
 {
     told = {};
-    isThere = isShown = timerRuns = ended = paused = cheats = false;
+    isThere = isShown = timerRuns = ended = paused = false;
     begun.reset();
     loaded.reset();
 }

@@ -61,8 +61,8 @@ public:
     // What the hand has done since the driver last looked.
     std::optional<NewPlayer> begun;    ///< the name dialog was answered with a name
     std::optional<std::string> loaded; ///< a game was chosen to be loaded
-    bool cheats = false;               ///< since the life began
-    std::string_view word;             ///< a code word to be entered next
+    bool cheats = false;   ///< since the life began, which may go on in the next program
+    std::string_view word; ///< a code word to be entered next
     // Counted since the beginning.
     int overflows = 0, wins = 0, deaths = 0;
 
