@@ -15,6 +15,7 @@ ninja-build             ninja
 qt6-base-dev            -
 qt6-translations-l10n   -
 libboost-context-dev    -
+fonts-paratype          -
 fonts-dejavu-core|fonts-liberation|fonts-liberation2    -
 "
 # What its tests need besides.
@@ -118,8 +119,8 @@ require_tools() {
 
 needs_in_words() {
     echo "The build needs a C++20 compiler, CMake $OLDEST_CMAKE, Ninja and the development files" \
-        "of Qt 6.4 and Boost.Context" \
-        "(Debian: g++ cmake ninja-build qt6-base-dev libboost-context-dev)."
+        "of Qt 6.4 and Boost.Context and the PT typefaces" \
+        "(Debian: g++ cmake ninja-build qt6-base-dev libboost-context-dev fonts-paratype)."
 }
 
 # Runs a command with its output in a log, which is shown when it fails.

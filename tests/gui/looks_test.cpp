@@ -13,6 +13,7 @@
 #include "equipment/basEquipment.h"
 #include "equipment/catalogue.h"
 #include "support/play.h"
+#include "ui/widgets/fittext.h"
 #include "ui/widgets/gamebutton.h"
 #include "ui/widgets/gamelabel.h"
 #include "ui/widgets/metrics.h"
@@ -24,8 +25,7 @@ using namespace torvenhall::test;
 namespace
 {
 
-// Letters squeezed more than this, or smaller, are no longer easy to read.
-constexpr double NarrowestStretch = 0.7;
+// Smaller letters are no longer easy to read.
 constexpr double SmallestUnits = 9;
 constexpr double LeastContrast = 4.5;
 
@@ -57,7 +57,8 @@ bool IsCut(const QWidget& control)
         if (own && own->wordWrap()) {
             font.setPixelSize(std::min(font.pixelSize(), Px(SmallestUnits)));
         } else {
-            room.setWidth((room.width() - (button ? Px(18) : 0)) / NarrowestStretch);
+            font =
+                FitText(Screen::TextOf(control), font, room.width() - (button ? Px(18) : 0)).font;
         }
         const bool fits = own ? own->TextFits() : button->TextFits();
         return !fits || !room.contains(Ink(control, room, font));

@@ -4,40 +4,48 @@
 #include <QPainter>
 #include <QTextLayout>
 
+#include "ui/widgets/metrics.h"
+
 namespace torvenhall
 {
 
 namespace
 {
-// Narrower than this Cyrillic capitals run together.
-constexpr double NarrowestStretch = 0.7;
+
+// A smaller text than this share of its neighbours would look like another kind.
+constexpr double SmallestShare = 0.8;
+
+bool Fits(const QString& text, const QFont& font, double width)
+{
+    return QFontMetricsF(font).horizontalAdvance(text) <= width;
+}
+
 } // namespace
 
 FittedText FitText(const QString& text, const QFont& font, double width)
 {
-    const QFontMetricsF metrics(font);
-    const double natural = metrics.horizontalAdvance(text);
-    if (natural <= width || natural <= 0) {
-        return {text, 1, true};
+    if (Fits(text, font, width)) {
+        return {text, font, true};
     }
-    const double stretch = width / natural;
-    if (stretch >= NarrowestStretch) {
-        return {text, stretch, true};
+    QFont fitting = Condensed(font);
+    const int smallest = static_cast<int>(font.pixelSize() * SmallestShare);
+    for (; fitting.pixelSize() > smallest; fitting.setPixelSize(fitting.pixelSize() - 1)) {
+        if (Fits(text, fitting, width)) {
+            return {text, fitting, true};
+        }
     }
-    return {metrics.elidedText(text, Qt::ElideRight, width / NarrowestStretch), NarrowestStretch,
-            false};
+    return {QFontMetricsF(fitting).elidedText(text, Qt::ElideRight, width), fitting,
+            Fits(text, fitting, width)};
 }
 
 void DrawFitted(QPainter& painter, const QRectF& rect, Qt::Alignment alignment, const QString& text)
 {
     const FittedText fitted = FitText(text, painter.font(), rect.width());
-    painter.save();
-    painter.translate(rect.topLeft());
-    painter.scale(fitted.stretch, 1);
-    const QRectF stretched(0, 0, rect.width() / fitted.stretch, rect.height());
-    painter.drawText(stretched, static_cast<int>(alignment) | Qt::TextSingleLine | Qt::TextDontClip,
+    const QFont before = painter.font();
+    painter.setFont(fitted.font);
+    painter.drawText(rect, static_cast<int>(alignment) | Qt::TextSingleLine | Qt::TextDontClip,
                      fitted.text);
-    painter.restore();
+    painter.setFont(before);
 }
 
 double BreakLines(QTextLayout& layout, double width)

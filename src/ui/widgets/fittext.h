@@ -10,12 +10,13 @@ class QTextLayout;
 namespace torvenhall
 {
 
-/// A line of text made to fit a width: condensed first, and only when that
-/// is not enough cut with an ellipsis.
+/// A line of text made to fit a width: in its own face, in the condensed one,
+/// in that one a little smaller, and only when that is not enough cut with an
+/// ellipsis.
 struct FittedText {
     QString text;
-    double stretch = 1; ///< horizontal
-    bool whole = true;  ///< nothing was cut
+    QFont font;
+    bool whole = true; ///< nothing was cut
 };
 FittedText FitText(const QString& text, const QFont& font, double width);
 

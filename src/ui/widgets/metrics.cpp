@@ -84,28 +84,4 @@ int FontPx(double height)
     return std::max(1, Px(height));
 }
 
-QFont Type::Font() const
-{
-    QFont font;
-    if (terminal) {
-        font.setFamilies({"Liberation Mono", "DejaVu Sans Mono", "Consolas", "monospace"});
-        font.setStyleHint(QFont::Monospace);
-    } else {
-        font.setFamilies({"Liberation Sans", "DejaVu Sans", "Arial", "sans-serif"});
-    }
-    font.setPixelSize(FontPx(height));
-    font.setBold(bold);
-    return font;
-}
-
-Type TextType(double height, bool bold)
-{
-    return {height, bold};
-}
-
-Type TerminalType(double height, bool bold)
-{
-    return {height, bold, true};
-}
-
 } // namespace torvenhall

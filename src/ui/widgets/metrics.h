@@ -27,13 +27,16 @@ int Px(double units);
 QRect PxRect(const QRectF& units);
 QSize PxSize(double width, double height);
 
-/// A typeface, its height in units.
+/// A typeface, its height in units. The faces are carried in the program, so
+/// that every machine shows the same game.
 struct Type {
     double height;
     bool bold = false;
     bool terminal = false; ///< every character is as wide as another
     QFont Font() const;
 };
+/// The condensed face of a text's font.
+QFont Condensed(const QFont& font);
 /// The game's type and the message line's.
 Type TextType(double height, bool bold = false);
 Type TerminalType(double height, bool bold = false);
