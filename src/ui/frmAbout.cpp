@@ -30,20 +30,19 @@ frmAbout::frmAbout(QWidget* parent) : GameWindow("frmAbout", 460, 346, parent)
     setWindowTitle("О Torvenhall 1.5");
     setWindowModality(Qt::ApplicationModal);
     Surface().ShowPicture("MAINPICTURE");
-    AddSlogan("Label1", "Label2", "Torvenhall 1.5 full", {24, 14, 372, 40}, 26);
-    AddLabel("Label3", "Версия 1.5 Full для Windows 98 SE/Me", {25, 54, 372, 20},
-             TextType(12.5, true))
+    AddSlogan("Label1", "Label2", "Torvenhall 1.5 full", Sign::Neon, 26);
+    Surface().AddPanel({14, 152, 432, 142});
+    AddLabel("Label3", "Версия 1.5 Full для Windows 98 SE/Me", {26, 158, 408, 20},
+             TextType(13.5, true))
         ->SetColour(colour::Warm);
-    Surface().AddPanel({0, 40, 460, 62}, Scene::Panel::Shade);
-    Surface().AddPanel({14, 160, 432, 118});
-    double top = 165;
+    double top = 180;
     for (const char* line : Lines) {
-        AddLabel({}, line, {26, top, 408, LineHeight}, TextType(11.5));
+        AddLabel({}, line, {26, top, 408, LineHeight}, TextType(12.5));
         top += LineHeight;
     }
-    GameButton* system = AddButton("Command2", "О системе...", {210, 302, 122, 30});
+    GameButton* system = AddButton("Command2", "О системе...", {210, 302, 122, 32});
     system->SetGlyph(Glyph::Screen);
-    GameButton* accept = AddButton("Command1", "OK", {342, 302, 104, 30});
+    GameButton* accept = AddButton("Command1", "OK", {342, 302, 104, 32});
     connect(system, &QAbstractButton::clicked, this, [] { EnterRules(StartSysInfo); });
     connect(accept, &QAbstractButton::clicked, this, &frmAbout::reject);
     accept->setFocus();

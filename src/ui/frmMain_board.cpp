@@ -115,7 +115,7 @@ void frmMain::BuildClock()
 void frmMain::AddTile(const QString& caption, Label label, const QRectF& place)
 {
     const bool mayTurnRed = place.top() >= VitalsTop;
-    scene->AddPanel(place, mayTurnRed ? Scene::Panel::Deep : Scene::Panel::Glass);
+    scene->AddPanel(place, mayTurnRed ? Scene::Panel::Deep : Scene::Panel::Plain);
     const QRectF inside = place.adjusted(9, 0, -9, 0);
     AddCaption(caption, {inside.left(), place.top() + 2, inside.width(), 15}, 10.5);
     const double height = label == Label::lblFamily ? 20 : 18;

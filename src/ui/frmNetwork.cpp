@@ -37,7 +37,7 @@ constexpr double SiteHidden = -10000 / 15.0; // and where it is put away
 frmNetwork::frmNetwork(QWidget* parent)
     : ActivityWindow({"frmNetwork", "Выход в свет", "NET", Width, Height}, parent)
 {
-    AddSlogan("Label6", "Label7", "Всемирная паутина и один паук", {20, 14, Width - 40, 34});
+    AddSlogan("Label6", "Label7", "Всемирная паутина и один паук", Sign::Neon);
     BuildInternet();
     BuildSites();
     BuildBoard();

@@ -12,7 +12,7 @@ frmPause::frmPause(QWidget* parent) : GameWindow("frmPause", 320, 204, parent)
 {
     setWindowTitle("Игра приостановлена");
     Surface().ShowPicture("MAINPICTURE");
-    AddSlogan("Label1", "Label2", "Игра приостановлена", {24, 12, 272, 40}, 20);
+    AddSlogan("Label1", "Label2", "Игра приостановлена", Sign::Neon, 20);
     Surface().AddPanel({36, 62, 248, 126});
     GameButton* resume = AddButton("Command1", "Продолжить", {50, 74, 220, 30});
     resume->SetGlyph(Glyph::Play);

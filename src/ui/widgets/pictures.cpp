@@ -5,8 +5,6 @@
 #include <QImageReader>
 #include <QResource>
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "resources/modJpegInside.h"
@@ -42,20 +40,6 @@ QPixmap Decode(const QByteArray& jpeg, QSize wanted, double pixelRatio)
     return picture;
 }
 
-/// The pixel no brighter than a relative luminance, in its own hue.
-QRgb Dimmed(QRgb pixel, double brightest)
-{
-    const auto linear = [](int channel) { return std::pow(channel / 255.0, 2.2); };
-    const double luminance = 0.2126 * linear(qRed(pixel)) + 0.7152 * linear(qGreen(pixel)) +
-                             0.0722 * linear(qBlue(pixel));
-    if (luminance <= brightest) {
-        return pixel;
-    }
-    const double share = std::pow(brightest / luminance, 1 / 2.2);
-    const auto dim = [share](int channel) { return static_cast<int>(channel * share); };
-    return qRgb(dim(qRed(pixel)), dim(qGreen(pixel)), dim(qBlue(pixel)));
-}
-
 } // namespace
 
 QByteArray EmbeddedPicture(std::string_view name)
@@ -89,25 +73,6 @@ QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio)
         picture = Decode(jpeg, size, pixelRatio);
     }
     return picture;
-}
-
-QPixmap Frosted(const QPixmap& picture, double brightest)
-{
-    // Shrinking and growing again is a blur that costs nothing at start-up.
-    const QImage image = picture.toImage();
-    const int blur = std::max(2, static_cast<int>(std::lround(7 * picture.devicePixelRatio())));
-    const QSize few(std::max(1, image.width() / blur), std::max(1, image.height() / blur));
-    QImage small = image.scaled(few, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                       .convertToFormat(QImage::Format_RGB32);
-    for (int y = 0; y < small.height(); ++y) {
-        for (int x = 0; x < small.width(); ++x) {
-            small.setPixel(x, y, Dimmed(small.pixel(x, y), brightest));
-        }
-    }
-    QPixmap frosted = QPixmap::fromImage(
-        small.scaled(image.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    frosted.setDevicePixelRatio(picture.devicePixelRatio());
-    return frosted;
 }
 
 } // namespace torvenhall

@@ -1,7 +1,6 @@
 #include "ui/widgets/scene.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
 #include "ui/widgets/pictures.h"
 #include "ui/widgets/placing.h"
@@ -13,40 +12,17 @@ namespace torvenhall
 namespace
 {
 
-// Under the panels' tint these leave every text a contrast of 4.5 at least:
-// the dimmest text on glass, pure red on the deep panels.
-constexpr double BrightestGlass = 0.13;
-constexpr double BrightestDeep = 0.03;
-
-void PaintShade(QPainter& painter, const QRectF& place)
-{
-    QLinearGradient shade(place.topLeft(), place.bottomLeft());
-    shade.setColorAt(0, QColor(3, 6, 12, 205));
-    shade.setColorAt(0.7, QColor(3, 6, 12, 185));
-    shade.setColorAt(1, QColor(3, 6, 12, 0));
-    painter.fillRect(place, shade);
-}
-
-void PaintGlass(QPainter& painter, const QRectF& place, const QPixmap& frosted, const QColor& tint)
+void PaintPanel(QPainter& painter, const QRectF& place, Scene::Panel kind)
 {
     const double line = std::max(1.0, UnitScale());
-    const double radius = Px(5);
+    const double radius = Px(6);
     const QRectF plate = place.adjusted(line / 2, line / 2, -line / 2, -line / 2);
-    QPainterPath shape;
-    shape.addRoundedRect(plate, radius, radius);
-    painter.save();
-    painter.setClipPath(shape);
-    if (!frosted.isNull()) {
-        painter.drawPixmap(0, 0, frosted);
-    }
-    painter.fillRect(place, tint);
-    QLinearGradient sheen(place.topLeft(), place.bottomLeft());
-    sheen.setColorAt(0, QColor(255, 255, 255, 8));
-    sheen.setColorAt(0.5, QColor(255, 255, 255, 0));
-    painter.fillRect(place, sheen);
-    painter.restore();
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(colour::Border, line));
+    const QColor& tint = kind == Scene::Panel::Deep ? colour::PanelDeep : colour::Panel;
+    QLinearGradient fill(plate.topLeft(), plate.bottomLeft());
+    fill.setColorAt(0, kind == Scene::Panel::Deep ? tint : tint.lighter(112));
+    fill.setColorAt(1, tint);
+    painter.setBrush(fill);
+    painter.setPen(kind == Scene::Panel::Bare ? QPen(Qt::NoPen) : QPen(colour::Border, line));
     painter.drawRoundedRect(plate, radius, radius);
 }
 
@@ -67,15 +43,34 @@ void Scene::ShowPicture(std::string_view name)
 {
     if (picture != name) {
         picture = name;
-        composed = {};
-        update();
+        DrawAnew();
     }
 }
 
 void Scene::AddPanel(const QRectF& place, Panel kind)
 {
-    plates.push_back({place, kind});
+    plates.push_back({place, kind, {}});
+    DrawAnew();
+}
+
+void Scene::AddSign(const QRectF& place, Sign sign)
+{
+    plates.push_back({place, Panel::Bare, sign});
+    DrawAnew();
+}
+
+void Scene::DrawAnew()
+{
     composed = {};
+    update();
+}
+
+void Scene::PaintBackground(QPainter& painter)
+{
+    const QPixmap shown = LoadPicture(picture, size(), devicePixelRatioF());
+    if (!shown.isNull()) {
+        painter.drawPixmap(rect(), shown);
+    }
 }
 
 void Scene::Compose()
@@ -86,31 +81,14 @@ void Scene::Compose()
     QPainter painter(&composed);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), colour::Night);
-    const QPixmap shown = LoadPicture(picture, size(), ratio);
-    if (!shown.isNull()) {
-        painter.drawPixmap(rect(), shown);
-    }
-    for (const Panel kind : {Panel::Shade, Panel::Glass, Panel::Deep}) {
-        PaintPlates(painter, kind, shown);
-    }
-}
-
-void Scene::PaintPlates(QPainter& painter, Panel kind, const QPixmap& behind) const
-{
-    QPixmap frosted;
+    PaintBackground(painter);
     for (const Plate& plate : plates) {
-        if (plate.kind != kind) {
-            continue;
+        const QRect place = PxRect(plate.place);
+        if (plate.sign) {
+            PaintSignPlate(painter, *plate.sign, place);
+        } else {
+            PaintPanel(painter, place, plate.kind);
         }
-        if (kind == Panel::Shade) {
-            PaintShade(painter, PxRect(plate.place));
-            continue;
-        }
-        if (frosted.isNull() && !behind.isNull()) {
-            frosted = Frosted(behind, kind == Panel::Deep ? BrightestDeep : BrightestGlass);
-        }
-        PaintGlass(painter, PxRect(plate.place), frosted,
-                   kind == Panel::Deep ? colour::PanelDeep : colour::Panel);
     }
 }
 

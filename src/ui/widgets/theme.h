@@ -17,9 +17,9 @@ inline constexpr QColor Text{226, 240, 244};
 inline constexpr QColor Caption{143, 176, 188};
 inline constexpr QColor Faint{124, 144, 155};
 inline constexpr QColor Warm{255, 206, 132};
-inline constexpr QColor Panel{6, 11, 19, 134};
-inline constexpr QColor PanelDeep{4, 8, 14, 206};
-inline constexpr QColor Border{140, 214, 226, 62};
+inline constexpr QColor Panel{10, 17, 27, 238};
+inline constexpr QColor PanelDeep{5, 9, 15, 248};
+inline constexpr QColor Border{120, 190, 205, 74};
 inline constexpr QColor Night{11, 17, 26};
 } // namespace colour
 
