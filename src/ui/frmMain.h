@@ -39,6 +39,15 @@ protected:
 private:
     using Command = std::function<void()>;
 
+    /// A statistic, its width in units; without a reading it has no gauge.
+    struct Tile {
+        const char* caption;
+        Label label;
+        double width;
+        Gauge::Kind kind = Gauge::Kind::Share;
+        Gauge::Reading (*reading)() = nullptr;
+    };
+
     void BuildClock();
     void BuildStatistics();
     void BuildComputer();
@@ -50,9 +59,8 @@ private:
     void BuildHelpMenu();
 
     GameLabel* AddLabel(Label label, const QRectF& place, const Type& type);
-    GameLabel* AddCaption(const QString& text, const QRectF& place, double height);
-    void AddTile(const QString& caption, Label label, const QRectF& place);
-    void AddGauge(const QRectF& tile, Gauge::Kind kind, Gauge::Reading (*reading)());
+    GameLabel* AddCaption(const QString& text, const QRectF& place, const Type& type);
+    void AddTile(const Tile& tile, const QRectF& place);
     void AddRow(const QString& caption, Label label, const QRectF& place);
     QMenu* AddMenu(const QString& title);
     QAction* AddItem(QMenu* menu, const char* name, const QString& text, const Command& command);

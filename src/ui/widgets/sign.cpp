@@ -169,17 +169,29 @@ SignLabel::SignLabel(const QString& controlName, Sign newSign, Part newPart, con
     SetColour(part == Part::Letters ? PaintOf(sign).letters : PaintOf(sign).shadow);
 }
 
+QPainterPath SignLabel::LettersIn(const QRectF& place) const
+{
+    // Taken from large letters: those of a size are fitted to its pixels.
+    constexpr int large = 200;
+    const FittedText fitted = FitText(text(), font(), place.width());
+    QFont face = fitted.font;
+    face.setPixelSize(large);
+    face.setHintingPreference(QFont::PreferNoHinting);
+    const QFontMetricsF metrics(face);
+    const double shrink = fitted.font.pixelSize() / static_cast<double>(large);
+    QPainterPath letters;
+    letters.addText(0, (metrics.ascent() - metrics.descent()) / 2, face, fitted.text);
+    return QTransform::fromTranslate(place.left(), place.center().y())
+        .scale(shrink, shrink)
+        .map(letters);
+}
+
 void SignLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF place = contentsRect();
-    const FittedText fitted = FitText(text(), font(), place.width());
-    const QFontMetricsF metrics(fitted.font);
-    const double baseline =
-        place.top() + (place.height() + metrics.ascent() - metrics.descent()) / 2;
-    QPainterPath letters;
-    letters.addText(place.left(), baseline, fitted.font, fitted.text);
+    const QPainterPath letters = LettersIn(place);
     const bool isNeon = sign == Sign::Neon;
     if (isNeon) {
         PaintTubeGlow(painter, letters, PaintOf(sign).shadow);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPainterPath>
 #include <QRectF>
 
 #include "ui/widgets/gamelabel.h"
@@ -37,6 +38,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QPainterPath LettersIn(const QRectF& place) const;
+
     Sign sign;
     Part part;
 };
