@@ -7,12 +7,15 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QTimer>
+#include <QToolTip>
 
 #include "core/GameState.h"
+#include "core/basGame.h"
 #include "game/cheats.h"
 #include "game/clock.h"
 #include "game/commands.h"
 #include "game/entry.h"
+#include "ui/outlook.h"
 #include "ui/widgets/gamebutton.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
@@ -127,6 +130,7 @@ void frmMain::LabelChanged(Label label)
     if (!wasDanger && shown.Colour() == colour::Danger) {
         AlertTo(label);
     }
+    NotePast(label);
     // The level, too, sets the sum that fills the bar of the money.
     if (label != Label::lblTime && label != Label::lblMessage) {
         for (Gauge* gauge : gauges) {
@@ -140,6 +144,34 @@ void frmMain::AlertTo(Label label)
 {
     QAccessibleEvent alert(labels[label], QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void frmMain::NotePast(Label label)
+{
+    for (TileShown& tile : tiles) {
+        // The time's label shows that a day has begun, the level's the sum that wins.
+        const bool concerned = tile.label == label || label == Label::lblGameLevel;
+        if (tile.value && (concerned || label == Label::lblTime)) {
+            tile.past.Note(tile.value());
+        }
+        if (concerned) {
+            labels[tile.label]->setAccessibleDescription(OutlookOf(tile.label));
+        }
+    }
+}
+
+/// Tells what a tile's number means and how it came about.
+bool frmMain::ShowTileTip(const QWidget& tile)
+{
+    const int index = tile.property(TileOf).toInt();
+    const TileShown& shown = tiles[static_cast<std::size_t>(index)];
+    const bool mayKill = shown.label == Label::lblHappy || shown.label == Label::lblEat ||
+                         shown.label == Label::lblHealth;
+    const QString words = "<b>" + labels[shown.label]->accessibleName().toHtmlEscaped() +
+                          "</b><br>" + OutlookOf(shown.label);
+    const auto fatal = mayKill ? std::optional(BoundsOf(shown.label).fatal) : std::nullopt;
+    QToolTip::showText(QCursor::pos(), words + shown.past.Curve(fatal));
+    return true;
 }
 
 void frmMain::closeEvent(QCloseEvent* event)
@@ -171,6 +203,10 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
     // The buttons' keys pass here first.
     if (event->type() == QEvent::KeyPress && HandleKey(*static_cast<QKeyEvent*>(event))) {
         return true;
+    }
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::ToolTip && widget && widget->property(TileOf).isValid()) {
+        return ShowTileTip(*widget);
     }
     return QMainWindow::eventFilter(watched, event);
 }

@@ -67,6 +67,12 @@ Gauge::Reading Rank()
     return {.share = hasWord ? static_cast<double>(rank) / TopRank : 0, .steps = TopRank};
 }
 
+template <Int16 Game::*field>
+int Value()
+{
+    return (GameState.*field).value();
+}
+
 template <Int16 Game::*field, Label label>
 Gauge::Reading Percent()
 {
@@ -107,11 +113,16 @@ void frmMain::AddTile(const Tile& tile, const QRectF& place)
 {
     scene->AddPanel(place, Scene::Panel::Deep);
     const QRectF inside = place.adjusted(6, 0, -5, 0);
-    AddCaption(tile.caption, {inside.left(), place.top() + 2, inside.width(), 14},
-               CondensedType(11.5));
+    GameLabel* caption = AddCaption(
+        tile.caption, {inside.left(), place.top() + 2, inside.width(), 14}, CondensedType(11.5));
     GameLabel* value = AddLabel(tile.label, {inside.left(), place.top() + 13, inside.width(), 17},
                                 TextType(15, true));
     value->SetSpokenCaption(tile.caption);
+    tiles.push_back({tile.label, tile.caption, tile.value, {}});
+    for (GameLabel* each : {caption, value}) {
+        each->setProperty(TileOf, static_cast<int>(tiles.size() - 1));
+        each->installEventFilter(this);
+    }
     if (tile.label == Label::lblMoney) {
         value->FlashChanges();
     }
@@ -125,18 +136,23 @@ void frmMain::AddTile(const Tile& tile, const QRectF& place)
 void frmMain::BuildStatistics()
 {
     using enum Gauge::Kind;
-    const Tile tiles[]{
-        {"Бюджет", Label::lblMoney, 80, Share, Money},
-        {"Статус", Label::lblStatus, 68, Steps, Rank},
+    // clang-format off
+    const Tile statistics[]{
+        {"Бюджет", Label::lblMoney, 80, Share, Money, [] { return GameState.Money.value(); }},
+        {"Статус", Label::lblStatus, 68, Steps, Rank, Value<&Game::Education>},
         {"Семья", Label::lblFamily, 70},
-        {"Настроение", Label::lblHappy, 65, AroundZero, Percent<&Game::Happy, Label::lblHappy>},
-        {"Сытость", Label::lblEat, 65, AroundZero, Percent<&Game::EatLevel, Label::lblEat>},
-        {"Здоровье", Label::lblHealth, 65, AroundZero, Percent<&Game::Health, Label::lblHealth>},
+        {"Настроение", Label::lblHappy, 65, AroundZero,
+         Percent<&Game::Happy, Label::lblHappy>, Value<&Game::Happy>},
+        {"Сытость", Label::lblEat, 65, AroundZero,
+         Percent<&Game::EatLevel, Label::lblEat>, Value<&Game::EatLevel>},
+        {"Здоровье", Label::lblHealth, 65, AroundZero,
+         Percent<&Game::Health, Label::lblHealth>, Value<&Game::Health>},
         {"Образование", Label::lblEducation, 65, Share,
-         Percent<&Game::Intelligence, Label::lblEducation>},
+         Percent<&Game::Intelligence, Label::lblEducation>, Value<&Game::Intelligence>},
     };
+    // clang-format on
     double left = Left;
-    for (const Tile& tile : tiles) {
+    for (const Tile& tile : statistics) {
         AddTile(tile, {left, TilesTop, tile.width, TileHeight});
         left += tile.width + Gap;
     }

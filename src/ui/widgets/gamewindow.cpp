@@ -59,6 +59,14 @@ void GameWindow::AddSlogan(const QString& name, const QString& shadowName, const
     add(name, SignLabel::Part::Letters, place);
 }
 
+void GameWindow::AddHeading(const QString& name, const QString& shadowName, const QString& text,
+                            const QRectF& place, double height)
+{
+    AddLabel(shadowName, text, place.translated(1.2, 1.4), TextType(height, true))
+        ->SetColour(QColor(0, 0, 0, 210));
+    AddLabel(name, text, place, TextType(height, true))->SetColour(colour::LightCyan);
+}
+
 GameButton* GameWindow::AddBack(const QString& name, const QString& caption)
 {
     back = AddButton(name, caption,

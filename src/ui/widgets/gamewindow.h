@@ -47,6 +47,10 @@ protected:
     /// of the same text, the second one the letters' shadow.
     void AddSlogan(const QString& name, const QString& shadowName, const QString& text,
                    Sign sign = Sign::Neon, double height = 23);
+    /// A heading, drawn by two labels of the same text, the second one its
+    /// shadow.
+    void AddHeading(const QString& name, const QString& shadowName, const QString& text,
+                    const QRectF& place, double height);
     /// "Назад" in its usual corner: bottom right.
     GameButton* AddBack(const QString& name, const QString& caption = "Назад");
 

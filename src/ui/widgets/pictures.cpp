@@ -32,8 +32,8 @@ QPixmap Decode(const QByteArray& jpeg, QSize wanted, double pixelRatio)
     const QSize pixels = wanted * pixelRatio;
     const QSize scaled = reader.size().scaled(pixels, Qt::KeepAspectRatioByExpanding);
     reader.setScaledSize(scaled);
-    const QPoint corner((scaled.width() - pixels.width()) / 2,
-                        (scaled.height() - pixels.height()) / 2);
+    // In a lower window what stands at the top is kept.
+    const QPoint corner((scaled.width() - pixels.width()) / 2, 0);
     reader.setScaledClipRect(QRect(corner, pixels));
     QPixmap picture = QPixmap::fromImage(reader.read());
     picture.setDevicePixelRatio(pixelRatio);

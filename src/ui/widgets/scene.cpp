@@ -70,7 +70,14 @@ void Scene::PaintBackground(QPainter& painter)
     const QPixmap shown = LoadPicture(picture, size(), devicePixelRatioF());
     if (!shown.isNull()) {
         painter.drawPixmap(rect(), shown);
+        return;
     }
+    // A wall at night with the light of a lamp from above.
+    QRadialGradient light(QPointF(width() * 0.75, 0), width());
+    light.setColorAt(0, QColor(52, 60, 66));
+    light.setColorAt(0.4, QColor(24, 36, 48));
+    light.setColorAt(1, colour::Night);
+    painter.fillRect(rect(), light);
 }
 
 void Scene::Compose()
