@@ -100,7 +100,7 @@ int main(int argc, char** argv)
              recording ? static_cast<WallClock*>(&recording->clock) : &clock});
     QTimer::singleShot(0, &application, [&] {
         if (touring) {
-            QCoreApplication::exit(TakeTour(frontEnd, options.tourFolder));
+            QCoreApplication::exit(TakeTour(frontEnd, options.tourFolder, options.scale));
         } else {
             application.KeepLives();
             EnterRules(Main);

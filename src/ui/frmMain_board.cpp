@@ -178,8 +178,9 @@ void frmMain::BuildComputer()
             ->SetColour(colour::Warm);
     };
     const auto rowOf = [](const QRectF& panel, int row) {
-        return QRectF(panel.left() + 8, panel.top() + HeadHeight + row * RowHeight,
-                      panel.width() - 16, RowHeight + 2); // the letters' feet reach below
+        // The letters' feet reach below.
+        return QRectF(panel.left() + 8, panel.top() + HeadHeight - 1 + row * RowHeight,
+                      panel.width() - 16, RowHeight + 4);
     };
     addHead("Компьютер (Hardware)", hardware);
     addHead("Компьютер (Software)", software);

@@ -35,6 +35,28 @@ Colours ColoursOf(const Face& face)
 
 } // namespace
 
+void PaintPanel(QPainter& painter, const QRectF& place, const QColor& tint, bool bordered)
+{
+    const double line = std::max(1.0, UnitScale());
+    const double radius = Px(6);
+    const QRectF plate = place.adjusted(line / 2, line / 2, -line / 2, -line / 2);
+    QLinearGradient fill(plate.topLeft(), plate.bottomLeft());
+    fill.setColorAt(0, tint.lighter(112));
+    fill.setColorAt(1, tint);
+    painter.setBrush(fill);
+    painter.setPen(bordered ? QPen(colour::Border, line) : QPen(Qt::NoPen));
+    painter.drawRoundedRect(plate, radius, radius);
+}
+
+void PaintWall(QPainter& painter, const QRectF& place)
+{
+    QRadialGradient light(QPointF(place.left() + place.width() * 0.75, place.top()), place.width());
+    light.setColorAt(0, QColor(60, 62, 60));
+    light.setColorAt(0.4, QColor(26, 38, 48));
+    light.setColorAt(1, colour::Night);
+    painter.fillRect(place, light);
+}
+
 void PaintFocus(QPainter& painter, const QRectF& place, double radius)
 {
     const double width = std::max(1.0, UnitScale());

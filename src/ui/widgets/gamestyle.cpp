@@ -240,10 +240,11 @@ int GameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                                                                   : usual;
     case PM_ToolTipLabelFrameWidth:
         return Px(5);
-    case PM_LayoutLeftMargin:
+    case PM_LayoutLeftMargin: // of the message boxes
     case PM_LayoutRightMargin:
     case PM_LayoutTopMargin:
     case PM_LayoutBottomMargin:
+        return Px(19);
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
         return Px(usual);

@@ -24,12 +24,32 @@ namespace torvenhall
 namespace
 {
 
-QPixmap Decode(const QByteArray& jpeg, QSize wanted, double pixelRatio)
+/// For the larger scales each picture is carried a second time, twice as large.
+constexpr const char* Usual = ":/JPEGINSIDEDATA/";
+constexpr const char* Large = ":/large/";
+
+QByteArray Carried(const char* where, std::string_view name)
 {
-    QBuffer buffer;
-    buffer.setData(jpeg);
-    QImageReader reader(&buffer, "jpeg");
+    static const bool registered = (RegisterPictures(), true);
+    Q_UNUSED(registered);
+    const QResource resource(where + Text(name));
+    if (!resource.isValid()) {
+        return {};
+    }
+    return QByteArray::fromRawData(reinterpret_cast<const char*>(resource.data()), resource.size());
+}
+
+QPixmap Decode(std::string_view name, QSize wanted, double pixelRatio)
+{
     const QSize pixels = wanted * pixelRatio;
+    QBuffer buffer;
+    buffer.setData(Carried(Usual, name));
+    QImageReader reader(&buffer, "jpeg");
+    if (reader.size().width() < pixels.width() || reader.size().height() < pixels.height()) {
+        buffer.setData(Carried(Large, name));
+        reader.setDevice(&buffer);
+        reader.setFormat("jpeg");
+    }
     const QSize scaled = reader.size().scaled(pixels, Qt::KeepAspectRatioByExpanding);
     reader.setScaledSize(scaled);
     // In a lower window what stands at the top is kept.
@@ -44,13 +64,7 @@ QPixmap Decode(const QByteArray& jpeg, QSize wanted, double pixelRatio)
 
 QByteArray EmbeddedPicture(std::string_view name)
 {
-    static const bool registered = (RegisterPictures(), true);
-    Q_UNUSED(registered);
-    const QResource resource(":/JPEGINSIDEDATA/" + Text(name));
-    if (!resource.isValid()) {
-        return {};
-    }
-    return QByteArray::fromRawData(reinterpret_cast<const char*>(resource.data()), resource.size());
+    return Carried(Usual, name);
 }
 
 bool TakePictureStep(std::string_view key)
@@ -69,8 +83,8 @@ QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio)
     const QString place =
         QString("%1 %2x%3@%4").arg(Text(name)).arg(size.width()).arg(size.height()).arg(pixelRatio);
     QPixmap& picture = decoded[place];
-    if (const QByteArray jpeg = EmbeddedPicture(name); picture.isNull() && !jpeg.isEmpty()) {
-        picture = Decode(jpeg, size, pixelRatio);
+    if (picture.isNull() && !EmbeddedPicture(name).isEmpty()) {
+        picture = Decode(name, size, pixelRatio);
     }
     return picture;
 }

@@ -2,31 +2,13 @@
 
 #include <QPainter>
 
+#include "ui/widgets/face.h"
 #include "ui/widgets/pictures.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
 {
-
-namespace
-{
-
-void PaintPanel(QPainter& painter, const QRectF& place, Scene::Panel kind)
-{
-    const double line = std::max(1.0, UnitScale());
-    const double radius = Px(6);
-    const QRectF plate = place.adjusted(line / 2, line / 2, -line / 2, -line / 2);
-    const QColor& tint = kind == Scene::Panel::Deep ? colour::PanelDeep : colour::Panel;
-    QLinearGradient fill(plate.topLeft(), plate.bottomLeft());
-    fill.setColorAt(0, kind == Scene::Panel::Deep ? tint : tint.lighter(112));
-    fill.setColorAt(1, tint);
-    painter.setBrush(fill);
-    painter.setPen(kind == Scene::Panel::Bare ? QPen(Qt::NoPen) : QPen(colour::Border, line));
-    painter.drawRoundedRect(plate, radius, radius);
-}
-
-} // namespace
 
 Scene::Scene(double width, double height, QWidget* parent) : QWidget(parent)
 {
@@ -72,12 +54,7 @@ void Scene::PaintBackground(QPainter& painter)
         painter.drawPixmap(rect(), shown);
         return;
     }
-    // A wall at night with the light of a lamp from above.
-    QRadialGradient light(QPointF(width() * 0.75, 0), width());
-    light.setColorAt(0, QColor(52, 60, 66));
-    light.setColorAt(0.4, QColor(24, 36, 48));
-    light.setColorAt(1, colour::Night);
-    painter.fillRect(rect(), light);
+    PaintWall(painter, rect());
 }
 
 void Scene::Compose()
@@ -94,7 +71,9 @@ void Scene::Compose()
         if (plate.sign) {
             PaintSignPlate(painter, *plate.sign, place);
         } else {
-            PaintPanel(painter, place, plate.kind);
+            PaintPanel(painter, place,
+                       plate.kind == Panel::Deep ? colour::PanelDeep : colour::Panel,
+                       plate.kind != Panel::Bare);
         }
     }
 }
