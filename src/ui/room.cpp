@@ -1,0 +1,40 @@
+#include "ui/room.h"
+
+#include <QPixmap>
+
+#include "ui/roomparts.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/pictures.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+constexpr double Width = 518, Height = 420;
+/// Above it the larger copy of the picture is the sharper one.
+constexpr double PictureScale = 2;
+
+} // namespace
+
+void PaintRoom(QPainter& painter, const RoomLook& look, double pixelRatio)
+{
+    const bool large = UnitScale() * pixelRatio > PictureScale;
+    const QPixmap base =
+        LoadPicture(large ? "MAINPICTURE4" : "MAINPICTURE", PxSize(Width, Height), pixelRatio);
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(0, 0, base);
+    painter.scale(UnitScale(), UnitScale());
+    PaintWall(painter, look);
+    PaintThings(painter, look, pixelRatio);
+    PaintLight(painter, look);
+    PaintWindow(painter, look, 0);
+    PaintScreen(painter, look, 0);
+    PaintSignals(painter, look, 0);
+    PaintGlow(painter, look);
+    painter.restore();
+}
+
+} // namespace torvenhall
