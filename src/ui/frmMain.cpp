@@ -72,7 +72,7 @@ protected:
 
 } // namespace
 
-frmMain::frmMain() : scene(new Scene(Width, Height, this)), tmrTime(new QTimer(this))
+frmMain::frmMain() : scene(new RoomScene(Width, Height, this)), tmrTime(new QTimer(this))
 {
     setObjectName("frmMain");
     setWindowTitle("Marshend Torvenhall 1.5");
@@ -130,9 +130,13 @@ void frmMain::LabelChanged(Label label)
     if (!wasDanger && shown.Colour() == colour::Danger) {
         AlertTo(label);
     }
+    if (label == Label::lblMessage) {
+        return;
+    }
+    scene->Refresh();
     NotePast(label);
     // The level, too, sets the sum that fills the bar of the money.
-    if (label != Label::lblTime && label != Label::lblMessage) {
+    if (label != Label::lblTime) {
         for (Gauge* gauge : gauges) {
             gauge->update();
         }

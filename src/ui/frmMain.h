@@ -8,9 +8,9 @@
 #include "core/GameState.h"
 #include "core/labels.h"
 #include "ui/past.h"
+#include "ui/roomscene.h"
 #include "ui/widgets/gamelabel.h"
 #include "ui/widgets/gauge.h"
-#include "ui/widgets/scene.h"
 
 class QMenu;
 class QTimer;
@@ -92,7 +92,7 @@ private:
     bool ShowTileTip(const QWidget& tile);
     bool HandleKey(const QKeyEvent& event);
 
-    Scene* scene;
+    RoomScene* scene;
     QTimer* tmrTime;
     EnumArray<Label, GameLabel*> labels{};
     std::vector<Gauge*> gauges;

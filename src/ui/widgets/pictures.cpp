@@ -45,8 +45,10 @@ QPixmap Decode(std::string_view name, QSize wanted, double pixelRatio)
     QBuffer buffer;
     buffer.setData(Carried(Usual, name));
     QImageReader reader(&buffer, "jpeg");
-    if (reader.size().width() < pixels.width() || reader.size().height() < pixels.height()) {
-        buffer.setData(Carried(Large, name));
+    const bool small =
+        reader.size().width() < pixels.width() || reader.size().height() < pixels.height();
+    if (const QByteArray large = Carried(Large, name); small && !large.isEmpty()) {
+        buffer.setData(large);
         reader.setDevice(&buffer);
         reader.setFormat("jpeg");
     }

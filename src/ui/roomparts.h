@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "ui/roomlook.h"
+
+// The layers of the room, each drawn in units. From the back: the base picture,
+// the wall, the things, the light; then what shines by itself: window, screen,
+// glow.
+
+namespace torvenhall
+{
+
+/// What the light of this hour leaves of white at a place, the lamp and the
+/// screen included.
+QColor LightAt(const RoomLook& look, QPointF place);
+/// The same on the whole band, multiplied with what is there.
+void PaintLight(QPainter& painter, const RoomLook& look);
+/// The shine of the bulb and of the screen in the air.
+void PaintGlow(QPainter& painter, const RoomLook& look);
+
+/// The calendar's leaf and the diplomas.
+void PaintWall(QPainter& painter, const RoomLook& look);
+/// What is owned and the family's photos, with their shadows.
+void PaintThings(QPainter& painter, const RoomLook& look, double pixelRatio);
+
+/// The visible glass.
+const QPainterPath& Panes();
+/// The yard with the houses and its sky, and the snow in the air at a step.
+void PaintWindow(QPainter& painter, const RoomLook& look, int step);
+/// The houses of the yard, by the hour.
+void PaintHouses(QPainter& painter, const RoomLook& look);
+/// The tree, the snow on the ledge, the dish.
+void PaintYard(QPainter& painter, const RoomLook& look);
+
+/// The lit screen, if there is one.
+void PaintScreen(QPainter& painter, const RoomLook& look, int step);
+/// The modem's lights and the disk's.
+void PaintSignals(QPainter& painter, const RoomLook& look, int step);
+
+/// A number of 0..1 that always is the same for the same place.
+inline double Scatter(int seed)
+{
+    auto bits = static_cast<unsigned>(seed) * 2654435761U;
+    bits ^= bits >> 15;
+    bits *= 2246822519U;
+    bits ^= bits >> 13;
+    return (bits & 0xFFFFU) / 65536.0;
+}
+
+} // namespace torvenhall
