@@ -95,6 +95,7 @@ frmMain::frmMain() : scene(new RoomScene(Width, Height, this)), tmrTime(new QTim
     BuildHelpMenu();
 
     pauseVeil = new PauseVeil(scene);
+    quietLife = new QuietLife(this, [this] { scene->Step(); });
 
     tmrTime->setObjectName("tmrTime");
     tmrTime->setTimerType(Qt::PreciseTimer);
@@ -120,6 +121,7 @@ void frmMain::EnableTimer(bool enabled)
         tmrTime->stop();
     }
     pauseVeil->setVisible(!enabled);
+    quietLife->SetPaused(!enabled);
 }
 
 void frmMain::LabelChanged(Label label)

@@ -11,6 +11,7 @@
 #include "ui/roomscene.h"
 #include "ui/widgets/gamelabel.h"
 #include "ui/widgets/gauge.h"
+#include "ui/widgets/quietlife.h"
 
 class QMenu;
 class QTimer;
@@ -98,6 +99,7 @@ private:
     std::vector<Gauge*> gauges;
     std::vector<TileShown> tiles;
     QWidget* pauseVeil;
+    QuietLife* quietLife;
 };
 
 } // namespace torvenhall

@@ -16,7 +16,7 @@ public:
     /// Draws the room anew if the life has changed it.
     void Refresh();
     /// The next step of the quiet life.
-    void Step();
+    void Step() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

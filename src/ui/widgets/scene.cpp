@@ -10,6 +10,28 @@
 namespace torvenhall
 {
 
+namespace
+{
+
+/// Twice in quick succession, then for a long while not.
+bool IsOut(int step)
+{
+    constexpr int every = 34;
+    return step % every == 20 || step % every == 22;
+}
+
+void PaintDark(QPainter& painter, const QRectF& place)
+{
+    QRadialGradient dark(0.5, 0.5, 0.5);
+    dark.setCoordinateMode(QGradient::ObjectBoundingMode);
+    dark.setColorAt(0, QColor(8, 10, 18, 150));
+    dark.setColorAt(0.6, QColor(8, 10, 18, 110));
+    dark.setColorAt(1, QColor(8, 10, 18, 0));
+    painter.fillRect(place, dark);
+}
+
+} // namespace
+
 Scene::Scene(double width, double height, QWidget* parent) : QWidget(parent)
 {
     Place(*this, {0, 0, width, height});
@@ -78,13 +100,34 @@ void Scene::Compose()
     }
 }
 
+void Scene::AddFlicker(const QRectF& place)
+{
+    flickers.push_back(place);
+}
+
+void Scene::Step()
+{
+    const bool before = IsOut(step++);
+    if (before != IsOut(step)) {
+        for (const QRectF& place : flickers) {
+            update(PxRect(place));
+        }
+    }
+}
+
 void Scene::paintEvent(QPaintEvent*)
 {
     const double ratio = devicePixelRatioF();
     if (composed.devicePixelRatio() != ratio || composed.size() != size() * ratio) {
         Compose();
     }
-    QPainter(this).drawPixmap(0, 0, composed);
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, composed);
+    if (IsOut(step)) {
+        for (const QRectF& place : flickers) {
+            PaintDark(painter, PxRect(place));
+        }
+    }
 }
 
 } // namespace torvenhall

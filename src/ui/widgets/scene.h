@@ -32,6 +32,10 @@ public:
     void ShowPicture(std::string_view name);
     /// Adds a panel; place in units.
     void AddPanel(const QRectF& place, Panel kind = Panel::Plain);
+    /// A lamp or tube of the picture that stutters now and then; place in units.
+    void AddFlicker(const QRectF& place);
+    /// The next step of the quiet life.
+    virtual void Step();
     /// Adds what a slogan stands on.
     void AddSign(const QRectF& place, Sign sign);
 
@@ -53,6 +57,8 @@ private:
     std::string picture; ///< its embedded name
     QPixmap composed;    ///< picture and panels, ready to be copied to the screen
     std::vector<Plate> plates;
+    std::vector<QRectF> flickers;
+    int step = 0;
 };
 
 } // namespace torvenhall
