@@ -84,7 +84,7 @@ int main(int argc, char** argv)
     FindDirectories(Utf8(QCoreApplication::applicationDirPath()), "../share/torvenhall",
                     Utf8(UserDataFolder()));
 
-    SetStillLife(options.still || DesktopIsStill());
+    SetStillLife(options.still || !options.tourFolder.isEmpty() || DesktopIsStill());
     const bool touring = !options.tourFolder.isEmpty();
     touring ? ApplyScale(options.scale.value_or(1)) : ChooseScale(options.scale);
     constexpr double tourPace = 40; // its waits are not to be sat through

@@ -11,6 +11,7 @@
 #include "ui/widgets/glyphs.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
+#include "ui/widgets/quietlife.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
@@ -69,6 +70,9 @@ void GameLabel::ShowOnHover()
 
 void GameLabel::Flash()
 {
+    if (StillLife()) {
+        return;
+    }
     lit = true;
     update();
     QTimer::singleShot(FlashMilliseconds, this, [this] {

@@ -1,0 +1,145 @@
+#include <QImage>
+
+#include <algorithm>
+#include <utility>
+
+#include "ui/roomparts.h"
+#include "ui/widgets/metrics.h"
+#include "ui/widgets/pictures.h"
+
+namespace torvenhall
+{
+
+namespace
+{
+
+/// The sheet's own size in units; above this scale its larger copy is the sharper.
+constexpr double SheetWidth = 400;
+constexpr double SheetScale = 2;
+
+/// Where a drawing is cut out of the sheet, and where it stands in the room.
+struct Cut {
+    QRectF source;
+    QPointF place;
+};
+
+struct Thing {
+    Slot slot;
+    int level;
+    Cut cut;
+};
+
+/// In the order of drawing: from the wall to the desk's edge.
+constexpr Thing Things[]{
+    {Slot::Screen, 1, {{245, 0, 62, 58}, {200, 118}}},
+    {Slot::Screen, 2, {{117, 0, 78, 73}, {186, 104}}},
+    {Slot::Screen, 3, {{49, 0, 66, 74}, {198, 103}}},
+    {Slot::Sound, 1, {{130, 132, 25, 29}, {181, 149}}},
+    {Slot::Sound, 2, {{224, 81, 26, 40}, {180, 138}}},
+    {Slot::Sound, 3, {{309, 0, 28, 51}, {179, 127}}},
+    {Slot::Case, 1, {{38, 132, 54, 29}, {142, 150}}},
+    {Slot::Case, 2, {{197, 0, 46, 68}, {146, 112}}},
+    {Slot::Case, 3, {{0, 0, 47, 79}, {145, 101}}},
+    {Slot::Disk, 1, {{0, 191, 42, 15}, {108, 166}}},
+    {Slot::Disk, 2, {{124, 166, 42, 21}, {108, 160}}},
+    {Slot::Disk, 3, {{277, 132, 45, 24}, {106, 157}}},
+    {Slot::Discs, 1, {{44, 191, 30, 13}, {82, 168}}},
+    {Slot::Discs, 2, {{168, 166, 28, 21}, {84, 160}}},
+    {Slot::Discs, 3, {{94, 132, 34, 29}, {78, 152}}},
+    {Slot::Scanner, 1, {{266, 166, 76, 18}, {2, 164}}},
+    {Slot::Scanner, 2, {{198, 166, 66, 20}, {18, 162}}},
+    {Slot::Scanner, 3, {{252, 81, 82, 32}, {8, 150}}},
+    {Slot::Printer, 1, {{150, 81, 72, 45}, {444, 138}}},
+    {Slot::Printer, 2, {{0, 81, 72, 49}, {444, 134}}},
+    {Slot::Printer, 3, {{74, 81, 74, 49}, {442, 134}}},
+    {Slot::Modem, 1, {{344, 166, 40, 16}, {416, 165}}},
+    {Slot::Modem, 2, {{157, 132, 40, 29}, {416, 152}}},
+    {Slot::Modem, 3, {{157, 132, 40, 29}, {416, 152}}},
+    {Slot::Memory, 1, {{324, 132, 34, 23}, {482, 104}}},
+    {Slot::Memory, 2, {{360, 132, 34, 23}, {482, 104}}},
+    {Slot::Memory, 3, {{0, 166, 34, 23}, {482, 104}}},
+};
+
+constexpr Cut Keyboard{{199, 132, 76, 24}, {228, 158}}; // and the hands on it
+constexpr Cut Bride{{336, 81, 32, 32}, {392, 95}};
+constexpr Cut Wedding{{0, 132, 36, 32}, {390, 95}};
+constexpr QRectF Boys[]{{36, 166, 20, 23}, {58, 166, 20, 23}};
+constexpr QRectF Girls[]{{80, 166, 20, 23}, {102, 166, 20, 23}};
+constexpr QPointF FirstChild{420, 104};
+constexpr double ChildStep = 14.6;
+/// The second speaker is the first one's mirror image about this line.
+constexpr double SpeakersMiddle = 303;
+
+bool AnythingToShow(const RoomLook& look)
+{
+    return look.bride || look.wedding || look.sons + look.daughters > 0 ||
+           std::ranges::any_of(look.parts, [](int level) { return level > 0; });
+}
+
+const QImage& Sheet(bool large)
+{
+    static QImage sheet;
+    static bool isLarge = false;
+    if (std::exchange(isLarge, large) != large || sheet.isNull()) {
+        sheet = QImage::fromData(EmbeddedPicture(large ? "MAINTHINGS4" : "MAINTHINGS"), "png")
+                    .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    }
+    return sheet;
+}
+
+void Draw(QPainter& painter, const QImage& sheet, const Cut& cut)
+{
+    const double fine = sheet.width() / SheetWidth;
+    painter.drawImage(QRectF(cut.place, cut.source.size()), sheet,
+                      QRectF(cut.source.topLeft() * fine, cut.source.size() * fine));
+}
+
+void DrawMirrored(QPainter& painter, const QImage& sheet, const Cut& cut)
+{
+    painter.save();
+    painter.translate(2 * SpeakersMiddle, 0);
+    painter.scale(-1, 1);
+    Draw(painter, sheet, cut);
+    painter.restore();
+}
+
+void DrawFamily(QPainter& painter, const QImage& sheet, const RoomLook& look)
+{
+    QPointF place = FirstChild;
+    const auto portrait = [&](const QRectF& source) {
+        Draw(painter, sheet, {source, place});
+        place.rx() += ChildStep;
+    };
+    if (look.wedding) {
+        Draw(painter, sheet, Wedding);
+    } else if (look.bride) {
+        Draw(painter, sheet, Bride);
+    }
+    std::for_each_n(Boys, look.sons, portrait);
+    std::for_each_n(Girls, look.daughters, portrait);
+}
+
+} // namespace
+
+void PaintThings(QPainter& painter, const RoomLook& look, double pixelRatio)
+{
+    if (!AnythingToShow(look)) {
+        return;
+    }
+    const QImage& sheet = Sheet(UnitScale() * pixelRatio > SheetScale);
+    for (const Thing& thing : Things) {
+        if (look.Part(thing.slot) != thing.level) {
+            continue;
+        }
+        Draw(painter, sheet, thing.cut);
+        if (thing.slot == Slot::Sound) {
+            DrawMirrored(painter, sheet, thing.cut);
+        }
+    }
+    if (look.Part(Slot::Case) > 0) {
+        Draw(painter, sheet, Keyboard);
+    }
+    DrawFamily(painter, sheet, look);
+}
+
+} // namespace torvenhall
