@@ -11,6 +11,7 @@
 
 #include "core/GameState.h"
 #include "core/basGame.h"
+#include "equipment/catalogue.h"
 #include "game/cheats.h"
 #include "game/clock.h"
 #include "game/commands.h"
@@ -129,6 +130,9 @@ void frmMain::LabelChanged(Label label)
     GameLabel& shown = *labels[label];
     const bool wasDanger = shown.Colour() == colour::Danger;
     shown.ShowLabel(label);
+    if (shown.text() == Text(GetHardwareName(0, 0))) {
+        shown.SetColour(colour::Faint); // an empty place of the computer
+    }
     if (!wasDanger && shown.Colour() == colour::Danger) {
         AlertTo(label);
     }
