@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include "ui/roomparts.h"
 
@@ -117,19 +118,29 @@ QColor Dimmed(QColor colour, const RoomLook& look)
             static_cast<int>(std::min(255.0, colour.blue() * left * (left < 0.5 ? 1.7 : 1)))};
 }
 
+/// A crown of three tones: a mass in the shade, then leaves, then those in the light.
 void PaintLeaves(QPainter& painter, const RoomLook& look)
 {
-    const bool yellow = look.season == Season::Autumn;
+    constexpr struct {
+        int count;
+        double size, lift;
+        QRgb green, yellow;
+    } Tones[]{{30, 4.2, 0, 0xFF2F5A38, 0xFF8A4A22},
+              {70, 1.7, 1.2, 0xFF4E8440, 0xFFC87A2A},
+              {56, 1.1, 3.4, 0xFF9CC452, 0xFFF2BC48}};
     painter.setPen(Qt::NoPen);
-    for (int i = 0; i < 70; ++i) {
-        const double share = Scatter(i * 7 + 3);
-        const QColor light = yellow ? QColor(0xF0, 0xB4, 0x3C) : QColor(0x9C, 0xBE, 0x4E);
-        const QColor shade = yellow ? QColor(0xB0, 0x5A, 0x24) : QColor(0x3E, 0x6E, 0x36);
-        const double up = i / 70.0;
-        painter.setBrush(Dimmed(share < 0.35 + 0.5 * up ? light : shade, look));
-        const QPointF place(86 + 26 * (Scatter(i * 7) - 0.5) * (1.25 - 0.5 * up),
-                            150 - 26 * up + 5 * (Scatter(i * 7 + 1) - 0.5));
-        painter.drawEllipse(place, 2.2 + share, 1.7 + share * 0.8);
+    int seed = 300;
+    for (const auto& tone : Tones) {
+        painter.setBrush(
+            Dimmed(QColor(look.season == Season::Autumn ? tone.yellow : tone.green), look));
+        for (int i = 0; i < tone.count; ++i, seed += 3) {
+            const double up = Scatter(seed);
+            const double half = 15 * std::sqrt(std::max(0.1, 1 - std::pow(2 * up - 0.85, 2)));
+            const QPointF place(86 - tone.lift * 0.5 + half * (2 * Scatter(seed + 1) - 1),
+                                148 - 25 * up - tone.lift);
+            const double size = tone.size * (0.7 + 0.5 * Scatter(seed + 2));
+            painter.drawEllipse(place, size, size * 0.8);
+        }
     }
 }
 
@@ -148,6 +159,10 @@ void PaintYard(QPainter& painter, const RoomLook& look)
     const HouseColours& colours = Colours[static_cast<int>(look.daylight)];
     painter.setPen(QPen(Dimmed(QColor(0x4A, 0x36, 0x2C), look), 2, Qt::SolidLine, Qt::RoundCap));
     Branch(painter, {86, 156}, 12, 90, 1.8, 4);
+    if (look.season == Season::Winter) { // snow lies on the upper side
+        painter.setPen(QPen(QColor(colours.snow), 2, Qt::SolidLine, Qt::RoundCap));
+        Branch(painter, {85.7, 155.4}, 12, 90, 0.7, 3);
+    }
     painter.setPen(Qt::NoPen);
     if (!look.bareTree) {
         PaintLeaves(painter, look);

@@ -30,18 +30,18 @@ struct Hour {
 };
 
 constexpr Hour Hours[]{
-    {0xFF323C66, 0xFF0C1428, 1.0}, // night
+    {0xFF26365E, 0xFF0C1630, 1.0}, // night
     {0xFF6E6982, 0xFF5A3C46, 0.7}, // dawn
-    {0xFFC0BCBE, 0xFF4C5056, 0.0}, // day
-    {0xFF735866, 0xFF643A24, 0.8}, // dusk
-    {0xFF3E4270, 0xFF101830, 1.0}, // evening
+    {0xFFC8C4C2, 0xFF4C5056, 0.0}, // day
+    {0xFF5E5068, 0xFF6A3C20, 0.9}, // dusk
+    {0xFF2E3E68, 0xFF121C38, 1.0}, // evening
 };
 
 constexpr Light Window{{70, 120}, 300, 150, 0};
 constexpr Light Lamp[]{
-    {{284, 168}, 150, 116, 0xFF82684C},
-    {{276, 130}, 290, 160, 0xFF684829},
-    {{282, 174}, 84, 44, 0xFF403420},
+    {{284, 164}, 150, 120, 0xFF8C683A},
+    {{286, 130}, 300, 170, 0xFF70502E},
+    {{282, 172}, 90, 50, 0xFF483416},
 };
 constexpr Light Screen{{286, 136}, 66, 60, 0xFF1C3E48};
 
@@ -112,6 +112,41 @@ void Shine(QPainter& painter, const Light& light, double strength)
     painter.restore();
 }
 
+/// The sun comes in past the curtain; under a winter sky only its paleness.
+void PaintSun(QPainter& painter, const RoomLook& look)
+{
+    const bool pale = look.season == Season::Winter;
+    const QColor sun = pale ? QColor(0xD8, 0xE6, 0xF0) : QColor(0xFF, 0xEC, 0xB8);
+    QLinearGradient fall(QPointF(120, 76), QPointF(330, 176));
+    QColor far = sun;
+    far.setAlpha(0);
+    QColor near = sun;
+    near.setAlpha(pale ? 30 : 58);
+    fall.setColorAt(0, near);
+    fall.setColorAt(1, far);
+    QPainterPath beams;
+    beams.addPolygon(QPolygonF{{150, 72}, {196, 72}, {330, 181}, {214, 181}});
+    beams.addPolygon(QPolygonF{{206, 72}, {238, 72}, {392, 181}, {352, 181}});
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Screen);
+    painter.fillPath(beams, fall);
+    painter.restore();
+}
+
+/// A cat's eyes keep what light there is.
+void PaintCatEyes(QPainter& painter)
+{
+    painter.setPen(Qt::NoPen);
+    for (const QPointF eye : {QPointF(110.5, 128.2), QPointF(120.7, 127.1)}) {
+        painter.setBrush(QColor(216, 240, 120, 50));
+        painter.drawEllipse(eye, 3.4, 2.6);
+        painter.setBrush(QColor(222, 240, 130));
+        painter.drawEllipse(eye, 2.1, 1.05);
+        painter.setBrush(QColor(20, 18, 10));
+        painter.drawEllipse(eye, 0.55, 1);
+    }
+}
+
 } // namespace
 
 QColor LightAt(const RoomLook& look, QPointF place)
@@ -153,7 +188,11 @@ void PaintGlow(QPainter& painter, const RoomLook& look)
 {
     const double lamp = HourOf(look).lamp;
     if (lamp <= 0) {
+        PaintSun(painter, look);
         return;
+    }
+    if (look.daylight == Daylight::Night || look.daylight == Daylight::Evening) {
+        PaintCatEyes(painter);
     }
     painter.save();
     QLinearGradient air(QPointF(262, 100), QPointF(284, 178));
@@ -163,15 +202,15 @@ void PaintGlow(QPainter& painter, const RoomLook& look)
     QPainterPath cone;
     cone.moveTo(248, 107);
     cone.lineTo(275.5, 97);
-    cone.lineTo(352, 180);
-    cone.lineTo(218, 180);
+    cone.lineTo(346, 180);
+    cone.lineTo(262, 180);
     painter.setCompositionMode(QPainter::CompositionMode_Screen);
     painter.fillPath(cone, air);
     painter.restore();
     Shine(painter, {{263, 102}, 62, 50, 0xFF5A3C1A}, lamp);
     Shine(painter, {{263, 102}, 15, 13, 0xFF806030}, lamp);
     if (look.Running()) {
-        Shine(painter, {{252, 138}, 62, 56, 0xFF0C2A30}, 1);
+        Shine(painter, {{262, 138}, 56, 50, 0xFF061C24}, 1);
     }
 }
 

@@ -46,7 +46,7 @@ void PaintCode(QPainter& painter, const Desktop& desktop, int step)
         }
     }
     // The line being typed, and its cursor.
-    const double typed = 3 + 1.6 * (step % 15);
+    const double typed = 3 + 1.6 * ((step + 9) % 15);
     const double y = 4.6 + (Rows - 0.1) * 2.65;
     painter.fillRect(QRectF(3, y, typed - 3, 1.25), QColor(desktop.third));
     if (step % 4 < 2) {

@@ -30,9 +30,10 @@ bool Dark(const RoomLook& look)
     return look.daylight == Daylight::Night || look.daylight == Daylight::Evening;
 }
 
-void PaintStars(QPainter& painter)
+void PaintStars(QPainter& painter, const RoomLook& look)
 {
-    for (int i = 0; i < 26; ++i) {
+    const int stars = look.season == Season::Winter ? 10 : 26; // snow clouds
+    for (int i = 0; i < stars; ++i) {
         const QPointF place(14 + 92 * Scatter(i * 3), 70 + 44 * Scatter(i * 3 + 1));
         const double size = 0.3 + 0.35 * Scatter(i * 3 + 2);
         painter.setBrush(QColor(226, 236, 255, 110 + static_cast<int>(130 * Scatter(i + 77))));
@@ -74,7 +75,7 @@ void PaintSky(QPainter& painter, const RoomLook& look)
     sky.setColorAt(1, QColor(colours.low));
     painter.fillRect(Glass, sky);
     if (Dark(look)) {
-        PaintStars(painter);
+        PaintStars(painter, look);
     } else {
         PaintClouds(painter, look);
     }
