@@ -30,20 +30,20 @@ struct Hour {
 };
 
 constexpr Hour Hours[]{
-    {0xFF26365E, 0xFF0C1630, 1.0}, // night
-    {0xFF6E6982, 0xFF5A3C46, 0.7}, // dawn
-    {0xFFC8C4C2, 0xFF4C5056, 0.0}, // day
-    {0xFF5E5068, 0xFF6A3C20, 0.9}, // dusk
-    {0xFF2E3E68, 0xFF121C38, 1.0}, // evening
+    {0xFF26365E, 0xFF0C1630, 1.0},  // night
+    {0xFF646080, 0xFF5A3844, 0.7},  // dawn
+    {0xFFD0CAC6, 0xFF30343A, 0.0},  // day
+    {0xFF504668, 0xFF6A3A20, 0.85}, // dusk
+    {0xFF2E3E68, 0xFF121C38, 1.0},  // evening
 };
 
 constexpr Light Window{{70, 120}, 300, 150, 0};
 constexpr Light Lamp[]{
-    {{284, 164}, 150, 120, 0xFF8C683A},
-    {{286, 130}, 300, 170, 0xFF70502E},
-    {{282, 172}, 90, 50, 0xFF483416},
+    {{284, 162}, 160, 124, 0xFF7A521E},
+    {{290, 130}, 310, 170, 0xFF603F16},
+    {{284, 170}, 92, 52, 0xFF34220A},
 };
-constexpr Light Screen{{286, 136}, 66, 60, 0xFF1C3E48};
+constexpr Light Screen{{290, 134}, 56, 52, 0xFF0A2436};
 
 constexpr struct {
     double at, share;
@@ -113,24 +113,17 @@ void Shine(QPainter& painter, const Light& light, double strength)
 }
 
 /// The sun comes in past the curtain; under a winter sky only its paleness.
-void PaintSun(QPainter& painter, const RoomLook& look)
+void AddSun(QPainter& painter, const RoomLook& look)
 {
     const bool pale = look.season == Season::Winter;
-    const QColor sun = pale ? QColor(0xD8, 0xE6, 0xF0) : QColor(0xFF, 0xEC, 0xB8);
-    QLinearGradient fall(QPointF(120, 76), QPointF(330, 176));
-    QColor far = sun;
-    far.setAlpha(0);
-    QColor near = sun;
-    near.setAlpha(pale ? 30 : 58);
-    fall.setColorAt(0, near);
-    fall.setColorAt(1, far);
+    const QColor sun = pale ? QColor(0x14, 0x1A, 0x20) : QColor(0x58, 0x4C, 0x30);
+    QLinearGradient fall(QPointF(120, 76), QPointF(390, 190));
+    fall.setColorAt(0, sun);
+    fall.setColorAt(1, Qt::black);
     QPainterPath beams;
-    beams.addPolygon(QPolygonF{{150, 72}, {196, 72}, {330, 181}, {214, 181}});
-    beams.addPolygon(QPolygonF{{206, 72}, {238, 72}, {392, 181}, {352, 181}});
-    painter.save();
-    painter.setCompositionMode(QPainter::CompositionMode_Screen);
+    beams.addPolygon(QPolygonF{{146, 66}, {192, 66}, {334, 190}, {214, 190}});
+    beams.addPolygon(QPolygonF{{202, 66}, {236, 66}, {412, 190}, {356, 190}});
     painter.fillPath(beams, fall);
-    painter.restore();
 }
 
 /// A cat's eyes keep what light there is.
@@ -145,6 +138,36 @@ void PaintCatEyes(QPainter& painter)
         painter.setBrush(QColor(20, 18, 10));
         painter.drawEllipse(eye, 0.55, 1);
     }
+}
+
+/// The edges of the hero that look at the lamp, and at the screen.
+void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
+{
+    QPainterPath warm(QPointF(306.5, 87.5)); // the hair over the brow
+    warm.cubicTo(303.4, 91, 302.4, 95, 302.6, 99.5);
+    warm.cubicTo(303.6, 95.5, 304.6, 91.5, 306.5, 87.5);
+    warm.moveTo(298.5, 143.6); // the far sleeve
+    warm.cubicTo(290.4, 149, 286.6, 157, 285.4, 166);
+    warm.cubicTo(288.4, 158, 291.6, 150.6, 298.5, 143.6);
+    warm.moveTo(300.2, 166.6); // the near one, and both hands
+    warm.cubicTo(311, 163.2, 326, 163.8, 338, 166.4);
+    warm.cubicTo(326, 165.6, 312, 165.4, 300.2, 166.6);
+    warm.moveTo(263.5, 162.4);
+    warm.cubicTo(269, 158.8, 276, 160.8, 281, 164);
+    warm.cubicTo(276, 162.4, 270, 161.2, 263.5, 162.4);
+    warm.moveTo(280, 165);
+    warm.cubicTo(286, 161.4, 293, 163, 299, 166.6);
+    warm.cubicTo(293, 164.8, 287, 163.6, 280, 165);
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Screen);
+    painter.fillPath(warm, QColor(255, 190, 108, static_cast<int>(150 * lamp)));
+    if (look.Running()) {
+        QPainterPath cool(QPointF(303, 110)); // cheek and jaw
+        cool.cubicTo(303, 118, 304.8, 125, 310, 129);
+        cool.cubicTo(306.8, 124.6, 305.2, 118, 303, 110);
+        painter.fillPath(cool, QColor(110, 214, 240, 150));
+    }
+    painter.restore();
 }
 
 } // namespace
@@ -172,11 +195,15 @@ void PaintLight(QPainter& painter, const RoomLook& look)
     QImage map((Band.size() * MapScale).toSize(), QImage::Format_RGB32);
     map.fill(HourOf(look).everywhere);
     QPainter lights(&map);
+    lights.setRenderHint(QPainter::Antialiasing);
     lights.scale(MapScale, MapScale);
     lights.translate(-Band.topLeft());
     lights.setCompositionMode(QPainter::CompositionMode_Plus);
     EachLight(look,
               [&](const Light& light, double strength) { AddLight(lights, light, strength); });
+    if (look.daylight == Daylight::Day) {
+        AddSun(lights, look);
+    }
     lights.end();
     painter.save();
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
@@ -188,7 +215,6 @@ void PaintGlow(QPainter& painter, const RoomLook& look)
 {
     const double lamp = HourOf(look).lamp;
     if (lamp <= 0) {
-        PaintSun(painter, look);
         return;
     }
     if (look.daylight == Daylight::Night || look.daylight == Daylight::Evening) {
@@ -200,17 +226,18 @@ void PaintGlow(QPainter& painter, const RoomLook& look)
     air.setColorAt(0.5, QColor(255, 190, 110, static_cast<int>(34 * lamp)));
     air.setColorAt(1, QColor(255, 180, 90, 0));
     QPainterPath cone;
-    cone.moveTo(248, 107);
+    cone.moveTo(254, 106);
     cone.lineTo(275.5, 97);
     cone.lineTo(346, 180);
-    cone.lineTo(262, 180);
+    cone.lineTo(272, 180);
     painter.setCompositionMode(QPainter::CompositionMode_Screen);
     painter.fillPath(cone, air);
     painter.restore();
+    PaintRims(painter, look, lamp);
     Shine(painter, {{263, 102}, 62, 50, 0xFF5A3C1A}, lamp);
     Shine(painter, {{263, 102}, 15, 13, 0xFF806030}, lamp);
     if (look.Running()) {
-        Shine(painter, {{262, 138}, 56, 50, 0xFF061C24}, 1);
+        Shine(painter, {{258, 138}, 50, 48, 0xFF04161E}, 1);
     }
 }
 

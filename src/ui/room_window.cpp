@@ -10,7 +10,9 @@ namespace torvenhall
 namespace
 {
 
-constexpr QRectF Glass(14, 46, 96, 106);
+/// What is above hides behind the panels.
+constexpr double Top = 68;
+constexpr QRectF Glass(14, Top, 96, 152 - Top);
 
 struct SkyColours {
     QRgb top, middle, low;
@@ -126,10 +128,10 @@ const QPainterPath& Panes()
 {
     static const QPainterPath panes = [] {
         QPainterPath path;
-        path.addRect(14, 46, 42, 106);
-        path.moveTo(62, 46);
-        path.lineTo(102.9, 46);
-        path.cubicTo(102.2, 66, 101.3, 90, 102, 108);
+        path.addRect(14, Top, 42, 152 - Top);
+        path.moveTo(62, Top);
+        path.lineTo(102.2, Top);
+        path.cubicTo(101.7, 82, 101.4, 96, 102, 108);
         path.cubicTo(103, 116, 104, 120, 106.5, 126); // along the curtain
         path.lineTo(107, 152);
         path.lineTo(62, 152);
