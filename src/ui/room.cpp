@@ -31,9 +31,9 @@ void PaintRoom(QPainter& painter, const RoomLook& look, double pixelRatio)
     PaintThings(painter, look, pixelRatio);
     PaintLight(painter, look);
     PaintWindow(painter, look, 0);
+    PaintGlow(painter, look);
     PaintScreen(painter, look, 0);
     PaintSignals(painter, look, 0);
-    PaintGlow(painter, look);
     painter.restore();
 }
 

@@ -199,4 +199,34 @@ void PaintYard(QPainter& painter, const RoomLook& look)
     }
 }
 
+void PaintPlant(QPainter& painter, const RoomLook& look)
+{
+    const QColor light = LightAt(look, {47, 135});
+    constexpr QRgb Leaves[]{0xFF2C5238, 0xFF3F7244, 0xFF62964E};
+    constexpr QRgb Petals[]{0xFFA82F38, 0xFFE0504A, 0xFFFF8A76};
+    painter.save();
+    painter.setPen(QPen(Lit(QColor(0x3A, 0x5E, 0x34), light), 0.7));
+    for (const QPointF tip : {QPointF(40, 124), QPointF(50, 120), QPointF(56.5, 127)}) {
+        painter.drawLine(QPointF(47, 142), tip);
+    }
+    painter.setPen(Qt::NoPen);
+    for (int i = 0; i < 30; ++i) {
+        painter.setBrush(Lit(QColor(Leaves[i / 10]), light));
+        const double turn = 6.283 * Scatter(i * 4 + 900);
+        const double far = 0.35 + 0.65 * Scatter(i * 4 + 901);
+        const QPointF leaf(47 + 10.5 * far * std::cos(turn) - i * 0.05,
+                           137.5 + 6.5 * far * std::sin(turn) - i * 0.12);
+        painter.drawEllipse(leaf, 2.7 - i * 0.03, 2.1 - i * 0.02);
+    }
+    for (const QPointF head : {QPointF(40, 123), QPointF(50, 119.5), QPointF(56.5, 126)}) {
+        for (int i = 0; i < 15; ++i) {
+            painter.setBrush(Lit(QColor(Petals[i / 5]), light));
+            const QPointF petal(head.x() + 5 * (Scatter(i * 2 + 700) - 0.5) - i * 0.03,
+                                head.y() + 4 * (Scatter(i * 2 + 701) - 0.5) - i * 0.06);
+            painter.drawEllipse(petal, 1, 0.9);
+        }
+    }
+    painter.restore();
+}
+
 } // namespace torvenhall

@@ -146,9 +146,9 @@ void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
     QPainterPath warm(QPointF(306.5, 87.5)); // the hair over the brow
     warm.cubicTo(303.4, 91, 302.4, 95, 302.6, 99.5);
     warm.cubicTo(303.6, 95.5, 304.6, 91.5, 306.5, 87.5);
-    warm.moveTo(298.5, 143.6); // the far sleeve
-    warm.cubicTo(290.4, 149, 286.6, 157, 285.4, 166);
-    warm.cubicTo(288.4, 158, 291.6, 150.6, 298.5, 143.6);
+    warm.moveTo(295, 139.8); // the far sleeve
+    warm.cubicTo(287.6, 146, 284.2, 155, 283, 165);
+    warm.cubicTo(286, 155.6, 289.8, 147.4, 295, 139.8);
     warm.moveTo(300.2, 166.6); // the near one, and both hands
     warm.cubicTo(311, 163.2, 326, 163.8, 338, 166.4);
     warm.cubicTo(326, 165.6, 312, 165.4, 300.2, 166.6);
@@ -165,7 +165,7 @@ void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
         QPainterPath cool(QPointF(303, 110)); // cheek and jaw
         cool.cubicTo(303, 118, 304.8, 125, 310, 129);
         cool.cubicTo(306.8, 124.6, 305.2, 118, 303, 110);
-        painter.fillPath(cool, QColor(110, 214, 240, 150));
+        painter.fillPath(cool, QColor(110, 214, 240, 95));
     }
     painter.restore();
 }

@@ -90,21 +90,6 @@ void PaintSky(QPainter& painter, const RoomLook& look)
     }
 }
 
-void PaintFlakes(QPainter& painter, const RoomLook& look, int step)
-{
-    if (look.season != Season::Winter) {
-        return;
-    }
-    painter.setBrush(Dark(look) ? QColor(214, 226, 250, 215) : QColor(255, 255, 255, 235));
-    for (int i = 0; i < 34; ++i) {
-        const double fall = 2 + 2.4 * Scatter(i * 5 + 2);
-        const double y = 66 + std::fmod(86 * Scatter(i * 5) + fall * step, 86);
-        const double x = 14 + 96 * Scatter(i * 5 + 1) + 2 * std::sin(step * 0.5 + i);
-        const double size = 0.5 + 0.6 * Scatter(i * 5 + 3);
-        painter.drawEllipse(QPointF(x, y), size, size);
-    }
-}
-
 /// The room mirrored faintly in the glass, as glass is.
 void PaintSheen(QPainter& painter, const RoomLook& look)
 {
@@ -138,12 +123,14 @@ const QPainterPath& Panes()
         path.closeSubpath();
         QPainterPath bar;
         bar.addRect(60, 86.5, 52, 4.6);
-        return path - bar;
+        QPainterPath pot;
+        pot.addRect(39, 144, 16, 9);
+        return path - bar - pot;
     }();
     return panes;
 }
 
-void PaintWindow(QPainter& painter, const RoomLook& look, int step)
+void PaintView(QPainter& painter, const RoomLook& look)
 {
     painter.save();
     painter.setClipPath(Panes(), Qt::IntersectClip);
@@ -151,9 +138,34 @@ void PaintWindow(QPainter& painter, const RoomLook& look, int step)
     PaintSky(painter, look);
     PaintHouses(painter, look);
     PaintYard(painter, look);
-    PaintFlakes(painter, look, step);
     PaintSheen(painter, look);
     painter.restore();
+}
+
+void PaintFlakes(QPainter& painter, const RoomLook& look, int step)
+{
+    if (look.season != Season::Winter) {
+        return;
+    }
+    painter.save();
+    painter.setClipPath(Panes(), Qt::IntersectClip);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Dark(look) ? QColor(214, 226, 250, 215) : QColor(255, 255, 255, 235));
+    for (int i = 0; i < 34; ++i) {
+        const double fall = 1 + 1.3 * Scatter(i * 5 + 2);
+        const double y = 66 + std::fmod(86 * Scatter(i * 5) + fall * step, 86);
+        const double x = 14 + 96 * Scatter(i * 5 + 1) + 2 * std::sin(step * 0.5 + i);
+        const double size = 0.5 + 0.6 * Scatter(i * 5 + 3);
+        painter.drawEllipse(QPointF(x, y), size, size);
+    }
+    painter.restore();
+}
+
+void PaintWindow(QPainter& painter, const RoomLook& look, int step)
+{
+    PaintView(painter, look);
+    PaintFlakes(painter, look, step);
+    PaintPlant(painter, look);
 }
 
 } // namespace torvenhall
