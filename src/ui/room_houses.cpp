@@ -210,12 +210,12 @@ void PaintPlant(QPainter& painter, const RoomLook& look)
         painter.drawLine(QPointF(47, 142), tip);
     }
     painter.setPen(Qt::NoPen);
-    for (int i = 0; i < 30; ++i) {
-        painter.setBrush(Lit(QColor(Leaves[i / 10]), light));
+    for (int i = 0; i < 36; ++i) {
+        painter.setBrush(Lit(QColor(Leaves[i / 12]), light));
         const double turn = 6.283 * Scatter(i * 4 + 900);
-        const double far = 0.35 + 0.65 * Scatter(i * 4 + 901);
+        const double far = 0.2 + 0.8 * Scatter(i * 4 + 901);
         const QPointF leaf(47 + 10.5 * far * std::cos(turn) - i * 0.05,
-                           137.5 + 6.5 * far * std::sin(turn) - i * 0.12);
+                           139 + 6 * far * std::sin(turn) - i * 0.14);
         painter.drawEllipse(leaf, 2.7 - i * 0.03, 2.1 - i * 0.02);
     }
     for (const QPointF head : {QPointF(40, 123), QPointF(50, 119.5), QPointF(56.5, 126)}) {

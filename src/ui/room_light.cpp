@@ -146,6 +146,9 @@ void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
     QPainterPath warm(QPointF(306.5, 87.5)); // the hair over the brow
     warm.cubicTo(303.4, 91, 302.4, 95, 302.6, 99.5);
     warm.cubicTo(303.6, 95.5, 304.6, 91.5, 306.5, 87.5);
+    warm.moveTo(303.8, 110); // the nose
+    warm.cubicTo(301.6, 112.6, 301.2, 115, 302.6, 116.8);
+    warm.cubicTo(302.4, 114.6, 302.8, 112, 303.8, 110);
     warm.moveTo(295, 139.8); // the far sleeve
     warm.cubicTo(287.6, 146, 284.2, 155, 283, 165);
     warm.cubicTo(286, 155.6, 289.8, 147.4, 295, 139.8);
@@ -162,9 +165,9 @@ void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
     painter.setCompositionMode(QPainter::CompositionMode_Screen);
     painter.fillPath(warm, QColor(255, 190, 108, static_cast<int>(150 * lamp)));
     if (look.Running()) {
-        QPainterPath cool(QPointF(303, 110)); // cheek and jaw
-        cool.cubicTo(303, 118, 304.8, 125, 310, 129);
-        cool.cubicTo(306.8, 124.6, 305.2, 118, 303, 110);
+        QPainterPath cool(QPointF(304, 117.5)); // mouth and jaw
+        cool.cubicTo(304.4, 122, 306.4, 126.6, 311.4, 129.4);
+        cool.cubicTo(308.2, 126, 306.4, 122.4, 304, 117.5);
         painter.fillPath(cool, QColor(110, 214, 240, 95));
     }
     painter.restore();

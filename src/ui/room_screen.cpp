@@ -104,15 +104,15 @@ void PaintModemLights(QPainter& painter, const RoomLook& look, int step)
 
 void PaintCaseLights(QPainter& painter, const RoomLook& look)
 {
-    constexpr QPointF Lights[]{{172.5, 169}, {158, 158}, {164, 136.5}};
+    constexpr QPointF Lights[]{{167.5, 169}, {158, 158}, {164, 141.1}};
     const int level = look.Part(Slot::Case);
     Dot(painter, Lights[level - 1], level < 3 ? Green : Cyan, level < 3 ? 0.75 : 1.4);
     if (level == 3) { // the light behind the grille
-        QRadialGradient light(QPointF(164, 155), 19);
+        QRadialGradient light(QPointF(164, 157), 18);
         light.setColorAt(0, QColor(70, 210, 235, 150));
         light.setColorAt(0.5, QColor(60, 190, 225, 60));
         light.setColorAt(1, QColor(60, 190, 225, 0));
-        painter.fillRect(QRectF(145, 136, 38, 38), light);
+        painter.fillRect(QRectF(146, 139, 36, 36), light);
     }
 }
 
