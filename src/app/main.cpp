@@ -20,6 +20,7 @@
 #include "ui/QtFrontEnd.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
+#include "ui/widgets/quietlife.h"
 #include "ui/widgets/scale.h"
 #include "ui/widgets/theme.h"
 
@@ -31,6 +32,7 @@ struct Options {
     std::optional<double> scale; ///< the player's or the fitting one
     QString tourFolder;          ///< empty: play
     QString recordFile;          ///< empty: the game is not recorded
+    bool still = false;
 };
 
 Options ReadOptions(const QCoreApplication& application)
@@ -42,8 +44,9 @@ Options ReadOptions(const QCoreApplication& application)
     const QCommandLineOption font("font-size", "Size of the desktop font in points.", "points");
     const QCommandLineOption tour("tour", "Save a picture of every window in a folder.", "folder");
     const QCommandLineOption scale("scale", "Size of everything: 1 to 4 times.", "factor");
+    const QCommandLineOption still("still", "Nothing moves by itself.");
     const QCommandLineOption record("record", "Write down what the player does.", "file");
-    parser.addOptions({font, scale, tour, record});
+    parser.addOptions({font, scale, tour, still, record});
     parser.process(application);
     const double points = parser.value(font).toDouble();
     // The tour runs from wherever its pictures are wanted.
@@ -56,7 +59,7 @@ Options ReadOptions(const QCoreApplication& application)
     return {points > 0 ? points : torvenhall::DesktopFontPoints(),
             parser.isSet(scale) ? std::optional(factor) : std::nullopt,
             folder.isEmpty() ? folder : QDir::current().absoluteFilePath(folder),
-            parser.value(record)};
+            parser.value(record), parser.isSet(still)};
 }
 
 /// The player's folder for this program's data. A relative one is to be
@@ -81,6 +84,7 @@ int main(int argc, char** argv)
     FindDirectories(Utf8(QCoreApplication::applicationDirPath()), "../share/torvenhall",
                     Utf8(UserDataFolder()));
 
+    SetStillLife(options.still || !options.tourFolder.isEmpty() || DesktopIsStill());
     const bool touring = !options.tourFolder.isEmpty();
     touring ? ApplyScale(options.scale.value_or(1)) : ChooseScale(options.scale);
     constexpr double tourPace = 40; // its waits are not to be sat through
@@ -100,7 +104,7 @@ int main(int argc, char** argv)
              recording ? static_cast<WallClock*>(&recording->clock) : &clock});
     QTimer::singleShot(0, &application, [&] {
         if (touring) {
-            QCoreApplication::exit(TakeTour(frontEnd, options.tourFolder));
+            QCoreApplication::exit(TakeTour(frontEnd, options.tourFolder, options.scale));
         } else {
             application.KeepLives();
             EnterRules(Main);

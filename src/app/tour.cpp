@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QEnterEvent>
 #include <QEventLoop>
 #include <QListWidget>
 #include <QMenu>
@@ -16,6 +17,7 @@
 #include "core/timelabel.h"
 #include "core/waits.h"
 #include "equipment/basEquipment.h"
+#include "equipment/catalogue.h"
 #include "events/family.h"
 #include "game/clock.h"
 #include "game/entry.h"
@@ -24,6 +26,7 @@
 #include "ui/frmLang.h"
 #include "ui/frmMain.h"
 #include "ui/widgets/qtext.h"
+#include "ui/widgets/scale.h"
 #include "ui/windows.h"
 
 namespace torvenhall
@@ -32,12 +35,65 @@ namespace torvenhall
 namespace
 {
 
-constexpr int SettleMilliseconds = 120;
+constexpr int SettleMilliseconds = 60;
 
 constexpr std::string_view LongMessage =
     "Сообщение от майора милиции Treivaib: Сынок, ты попал на такие налоги!!!! Ты вчера вывел свою "
     "жену под Ниогарский Водопад, т.к. она тебе изменила, но чтобы ты её не убил вооще, она тебе "
     "дала $150 (какая жена твоя богатая)!!!";
+
+/// A life to be photographed in the main window.
+struct Life {
+    const char* name;
+    int money, happy, eat, health, intelligence, rank, job;
+    bool married;
+    int sons, daughters;
+    int hardware, software; ///< how many of each list are there, at most
+    int day, month, year, hour;
+    std::string_view message;
+};
+
+constexpr Life Lives[]{
+    {"beginner", 15, 25, 75, 40, 20, 1, 0, false, 0, 0, 0, 0, 1, 1, 2001, 9, ""},
+    {"programmer", 4210, 62, 48, 70, 90, 5, 8, true, 1, 1, 4, 3, 18, 1, 2002, 23,
+     "Вам пришла зарплата"},
+    {"danger", 38, -60, -24, -34, 45, 2, 4, false, 0, 0, 2, 2, 28, 10, 2001, 18, LongMessage},
+    {"owner", 12450, 90, 95, 85, 100, 8, 12, true, 1, 2, 11, 9, 12, 7, 2004, 13, ""},
+};
+
+void Live(const Life& life)
+{
+    SetMoney(life.money);
+    SetHappy(life.happy);
+    SetEatLevel(life.eat);
+    SetHealth(life.health);
+    SetIntelligence(life.intelligence);
+    SetEducation(life.rank);
+    SetWork(life.job);
+    GameState.WifeFound = GameState.Married = life.married ? True : False;
+    GameState.Sons = life.sons;
+    GameState.Daughters = life.daughters;
+    ShowFamily();
+    for (int category = 0; category < HardwareCategories; ++category) {
+        int part = life.hardware;
+        while (GetHardwareName(category, part).empty()) {
+            --part;
+        }
+        InstallHardware(category, part, false);
+    }
+    for (int category = 0; category < SoftwareCategories; ++category) {
+        int program = life.software;
+        while (GetSoftwareName(category, program).empty()) {
+            --program;
+        }
+        SoftwareField(category) = program;
+        ShowSoftware(category);
+    }
+    GameState.GameDate = MakeDate(life.day, life.month, life.year);
+    GameState.GameTime = MakeTime(life.hour, 30);
+    ShowTime();
+    ShowLabel(Label::lblMessage, life.message);
+}
 
 class Tour
 {
@@ -47,7 +103,8 @@ public:
         directory.mkpath(".");
     }
 
-    int Take()
+    /// True if every picture was saved.
+    bool Take()
     {
         VisitNameDialog();
         VisitMain();
@@ -60,7 +117,7 @@ public:
         frmLang languages(nullptr);
         languages.show();
         Save("frmLang", &languages);
-        return failed ? 1 : 0;
+        return !failed;
     }
 
 private:
@@ -95,47 +152,23 @@ private:
         VisitDialog("frmPlayerName", [] { AskName({"Введите Ваше имя", 1}); });
     }
 
-    static void LiveAwhile()
-    {
-        SetMoney(4210);
-        SetHappy(62);
-        SetEatLevel(-24);
-        SetHealth(-12);
-        SetIntelligence(80);
-        SetEducation(5);
-        SetWork(10);
-        Int16 level = 1;
-        SetGameLevel(level);
-        SetGameSpeed(30);
-        SetSoftSize(127);
-        GameState.WifeFound = GameState.Married = True;
-        GameState.Sons = 1;
-        GameState.Daughters = 2;
-        ShowFamily();
-        constexpr int hardware[] = {9, 7, 7, 7, 5, 6, 6, 6, 2};
-        for (int category = 0; category < 9; ++category) {
-            InstallHardware(category, hardware[category], false);
-        }
-        constexpr int software[] = {4, 2, 3, 4, 3, 6};
-        for (int category = 0; category < 6; ++category) {
-            InstallSoftware(category, software[category]);
-        }
-        GameState.GameDate = MakeDate(28, 9, 2001);
-        GameState.GameTime = MakeTime(23, 30);
-        ShowTime();
-    }
-
     void VisitMain()
     {
         EnterRules([this] {
-            LiveAwhile();
+            Int16 level = 1;
+            SetGameLevel(level);
+            SetGameSpeed(30);
+            SetSoftSize(127);
             GameState.GameSpeed = 0; // the time stands still for the pictures
-            ShowLabel(Label::lblMessage, LongMessage);
             frontEnd.SetMainTitle("Marshend Torvenhall 1.5 - Игрок");
             frontEnd.ShowMainWindow();
         });
         frmMain& main = frontEnd.MainWindow();
-        Save("frmMain", &main);
+        for (const Life& life : Lives) {
+            EnterRules([&life] { Live(life); });
+            Save(QString("frmMain-") + life.name, &main);
+        }
+        EnterRules([] { Live(Lives[1]); });
         for (QAction* action : main.menuBar()->actions()) {
             QMenu* menu = action->menu();
             menu->popup(
@@ -145,12 +178,27 @@ private:
         }
     }
 
+    /// A window, and a place in town also with one of its rows under the mouse.
     void Visit(std::string_view window)
     {
         EnterRules([this, window] { frontEnd.OpenWindow(window); });
         const QString name = Text(window);
-        Save(name, Opened(name));
+        GameWindow* opened = Opened(name);
+        Save(name, opened);
+        if (QWidget* row = opened ? RowOf(*opened) : nullptr) {
+            row->setAttribute(Qt::WA_UnderMouse);
+            QEnterEvent entered(QPointF(1, 1), QPointF(1, 1), row->mapToGlobal(QPointF(1, 1)));
+            QCoreApplication::sendEvent(row, &entered);
+            Save(name + "-hovered", opened);
+        }
         frontEnd.CloseWindow(window);
+    }
+
+    /// The second choice of a place in town; null elsewhere.
+    static QWidget* RowOf(const GameWindow& window)
+    {
+        const auto rows = window.findChildren<GameButton*>();
+        return rows.size() > 1 ? rows[1] : nullptr;
     }
 
     static GameWindow* Opened(const QString& name)
@@ -224,9 +272,17 @@ private:
 
 } // namespace
 
-int TakeTour(QtFrontEnd& frontEnd, const QString& folder)
+int TakeTour(QtFrontEnd& frontEnd, const QString& folder, std::optional<double> scale)
 {
-    return Tour(frontEnd, folder).Take();
+    if (scale) {
+        return Tour(frontEnd, folder).Take() ? 0 : 1;
+    }
+    bool taken = true;
+    for (const double each : {1.0, 1.5, 2.0}) {
+        ApplyScale(each);
+        taken &= Tour(frontEnd, folder + QString("/%1x").arg(each)).Take();
+    }
+    return taken ? 0 : 1;
 }
 
 } // namespace torvenhall

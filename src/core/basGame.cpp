@@ -1,5 +1,6 @@
 #include "core/basGame.h"
 
+#include <algorithm>
 #include <string>
 
 #include "core/running.h"
@@ -73,6 +74,8 @@ void SetVital(const Vital& vital, Int16 value)
     }
 }
 
+constexpr const Vital* Vitals[]{&HealthVital, &EatVital, &HappyVital};
+
 struct Level {
     int winMoney;
     std::string_view caption;
@@ -96,6 +99,12 @@ constexpr std::array Speeds{
 };
 
 } // namespace
+
+VitalBounds BoundsOf(Label vital)
+{
+    const Vital& found = **std::ranges::find(Vitals, vital, &Vital::label);
+    return {found.warning.value(), found.fatal.value()};
+}
 
 void SetMoney(Int32 value)
 {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/GameState.h"
+#include "core/labels.h"
 #include "system/table.h"
 
 namespace torvenhall
@@ -21,6 +22,15 @@ void SetHappy(Int16 value);
 void SetEducation(Int16 value);
 /// Percent.
 void SetIntelligence(Int16 value);
+
+/// What becomes of a vital statistic: its label is red below the warning, and
+/// at or below the fatal bound the life ends.
+struct VitalBounds {
+    int warning;
+    int fatal;
+};
+/// Those of lblHappy, lblEat and lblHealth.
+VitalBounds BoundsOf(Label vital);
 
 /// The words of the status ranks, the first is rank 1.
 inline constexpr std::array<std::string_view, 8> RankWords{"BEGIN",   "USER",  "GAMER",  "LAMER",

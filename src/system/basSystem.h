@@ -38,6 +38,9 @@ bool GetKeyValue(const std::string& keyName, const std::string& valueName, std::
 /// platform has no such thing.
 int WatchEndRequests();
 
+/// Whether the machine runs on its battery, where the system tells.
+bool OnBattery();
+
 /// Where the shipped files lie (texts, anecdotes), with a trailing separator:
 /// the program's own folder, or the share folder of an installed program.
 const std::string& ProgramDirectory();

@@ -1,6 +1,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <fstream>
 #include <system_error>
 #include <utility>
 
@@ -282,6 +283,22 @@ int WatchEndRequests()
         }
     }
     return ends[0];
+}
+
+bool OnBattery()
+{
+    // Batteries of mice count as such, so what tells is a mains that gives nothing.
+    bool mains = false, gives = false;
+    std::error_code failure;
+    const std::filesystem::path supplies = "/sys/class/power_supply";
+    for (const auto& supply : std::filesystem::directory_iterator(supplies, failure)) {
+        std::string type, online;
+        std::ifstream(supply.path() / "type") >> type;
+        std::ifstream(supply.path() / "online") >> online;
+        mains |= type == "Mains";
+        gives |= type == "Mains" && online == "1";
+    }
+    return mains && !gives;
 }
 
 std::string GetWindowsDir()

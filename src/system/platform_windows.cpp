@@ -261,6 +261,13 @@ int WatchEndRequests()
     return -1; // the toolkit is told of a logout by itself
 }
 
+bool OnBattery()
+{
+    SYSTEM_POWER_STATUS status{};
+    constexpr BYTE offline = 0;
+    return ::GetSystemPowerStatus(&status) != 0 && status.ACLineStatus == offline;
+}
+
 std::string GetWindowsDir()
 {
     std::wstring path(LongestPath, L'\0');

@@ -12,7 +12,9 @@ namespace torvenhall
 namespace
 {
 
-constexpr double LineHeight = 15;
+constexpr double LineHeight = 15.5;
+// Longer lines are broken in two.
+constexpr int LongLine = 52;
 constexpr const char* Lines[] = {
     "Пишите нам: torvenhall@marshend.example",
     "Сайт игры: http://torvenhall.example/",
@@ -29,21 +31,21 @@ frmAbout::frmAbout(QWidget* parent) : GameWindow("frmAbout", 460, 346, parent)
 {
     setWindowTitle("О Torvenhall 1.5");
     setWindowModality(Qt::ApplicationModal);
-    Surface().ShowPicture("MAINPICTURE");
-    AddSlogan("Label1", "Label2", "Torvenhall 1.5 full", {24, 14, 372, 40}, 26);
-    AddLabel("Label3", "Версия 1.5 Full для Windows 98 SE/Me", {25, 54, 372, 20},
-             TextType(12.5, true))
+    Surface().ShowPicture("TITLEPICTURE");
+    Surface().AddPanel({14, 88, 274, 210});
+    AddHeading("Label1", "Label2", "Torvenhall 1.5 full", {26, 92, 250, 26}, 19);
+    AddLabel("Label3", "Версия 1.5 Full для Windows 98 SE/Me", {26, 118, 250, 18},
+             TextType(13, true))
         ->SetColour(colour::Warm);
-    Surface().AddPanel({0, 40, 460, 62}, Scene::Panel::Shade);
-    Surface().AddPanel({14, 160, 432, 118});
-    double top = 165;
-    for (const char* line : Lines) {
-        AddLabel({}, line, {26, top, 408, LineHeight}, TextType(11.5));
-        top += LineHeight;
+    double top = 138;
+    for (const QString line : Lines) {
+        const double height = line.size() > LongLine ? 2 * LineHeight : LineHeight;
+        AddLabel({}, line, {26, top, 252, height}, CondensedType(13))->setWordWrap(true);
+        top += height;
     }
-    GameButton* system = AddButton("Command2", "О системе...", {210, 302, 122, 30});
+    GameButton* system = AddButton("Command2", "О системе...", {210, 304, 122, 30});
     system->SetGlyph(Glyph::Screen);
-    GameButton* accept = AddButton("Command1", "OK", {342, 302, 104, 30});
+    GameButton* accept = AddButton("Command1", "OK", {342, 304, 104, 30});
     connect(system, &QAbstractButton::clicked, this, [] { EnterRules(StartSysInfo); });
     connect(accept, &QAbstractButton::clicked, this, &frmAbout::reject);
     accept->setFocus();

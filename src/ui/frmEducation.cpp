@@ -20,7 +20,7 @@ constexpr double ButtonTop = 70;
 frmEducation::frmEducation(QWidget* parent)
     : ActivityWindow({"frmEducation", "Повышение квалификации", "EDUC"}, parent)
 {
-    AddSlogan("Label3", "Label4", "Школа... Без неё -- никуда...", {20, 14, 520, 34});
+    AddSlogan("Label3", "Label4", "Школа... Без неё -- никуда...", Sign::Chalk);
     AddProgramme(
         "Label1",
         "Если вы начнёте ходить в школу, то Ваш уровень образования будет увеличиваться на "

@@ -9,7 +9,10 @@ namespace torvenhall
 class frmHappy : public ServiceSeller
 {
 public:
-    explicit frmHappy(QWidget* parent) : ServiceSeller("frmHappy", Entertainment, parent) {}
+    explicit frmHappy(QWidget* parent)
+        : ServiceSeller("frmHappy", Entertainment, Sign::Neon, parent)
+    {
+    }
 };
 
 } // namespace torvenhall

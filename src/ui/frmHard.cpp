@@ -10,7 +10,7 @@ frmHard::frmHard(QWidget* parent)
                     {"cmdUpggrade", HardwareCategories, 404, HardwareOffer, BuyNextHardware},
                     parent)
 {
-    AddSlogan("Label3", "Label4", "Железо оно и на Тайване железо", {20, 12, 520, 34});
+    AddSlogan("Label3", "Label4", "Железо оно и на Тайване железо", Sign::Tin);
 }
 
 } // namespace torvenhall

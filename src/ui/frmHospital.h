@@ -9,7 +9,10 @@ namespace torvenhall
 class frmHospital : public ServiceSeller
 {
 public:
-    explicit frmHospital(QWidget* parent) : ServiceSeller("frmHospital", Hospital, parent) {}
+    explicit frmHospital(QWidget* parent)
+        : ServiceSeller("frmHospital", Hospital, Sign::Enamel, parent)
+    {
+    }
 };
 
 } // namespace torvenhall

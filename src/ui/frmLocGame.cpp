@@ -17,9 +17,8 @@ frmLocGame::frmLocGame(const GameNameQuestion& question, QWidget* parent)
       name(new QLineEdit(Text(question.name), &Surface()))
 {
     setWindowTitle(Text(question.caption));
-    Surface().ShowPicture("SOFTPICTURE");
     Surface().AddPanel({12, 12, 356, 306}, Scene::Panel::Deep);
-    AddLabel("Label1", Text(question.heading), {26, 20, 328, 22}, TextType(13, true))
+    AddLabel("Label1", Text(question.heading), {26, 20, 328, 22}, TextType(14, true))
         ->SetColour(colour::Warm);
     AddEntries(question);
 

@@ -7,12 +7,16 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QTimer>
+#include <QToolTip>
 
 #include "core/GameState.h"
+#include "core/basGame.h"
+#include "equipment/catalogue.h"
 #include "game/cheats.h"
 #include "game/clock.h"
 #include "game/commands.h"
 #include "game/entry.h"
+#include "ui/outlook.h"
 #include "ui/widgets/gamebutton.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
@@ -69,7 +73,7 @@ protected:
 
 } // namespace
 
-frmMain::frmMain() : scene(new Scene(Width, Height, this)), tmrTime(new QTimer(this))
+frmMain::frmMain() : scene(new RoomScene(Width, Height, this)), tmrTime(new QTimer(this))
 {
     setObjectName("frmMain");
     setWindowTitle("Marshend Torvenhall 1.5");
@@ -92,6 +96,7 @@ frmMain::frmMain() : scene(new Scene(Width, Height, this)), tmrTime(new QTimer(t
     BuildHelpMenu();
 
     pauseVeil = new PauseVeil(scene);
+    quietLife = new QuietLife(this, [this] { scene->Step(); });
 
     tmrTime->setObjectName("tmrTime");
     tmrTime->setTimerType(Qt::PreciseTimer);
@@ -117,6 +122,7 @@ void frmMain::EnableTimer(bool enabled)
         tmrTime->stop();
     }
     pauseVeil->setVisible(!enabled);
+    quietLife->SetPaused(!enabled);
 }
 
 void frmMain::LabelChanged(Label label)
@@ -124,11 +130,19 @@ void frmMain::LabelChanged(Label label)
     GameLabel& shown = *labels[label];
     const bool wasDanger = shown.Colour() == colour::Danger;
     shown.ShowLabel(label);
+    if (shown.text() == Text(GetHardwareName(0, 0))) {
+        shown.SetColour(colour::Faint); // an empty place of the computer
+    }
     if (!wasDanger && shown.Colour() == colour::Danger) {
         AlertTo(label);
     }
+    if (label == Label::lblMessage) {
+        return;
+    }
+    scene->Refresh();
+    NotePast(label);
     // The level, too, sets the sum that fills the bar of the money.
-    if (label != Label::lblTime && label != Label::lblMessage) {
+    if (label != Label::lblTime) {
         for (Gauge* gauge : gauges) {
             gauge->update();
         }
@@ -140,6 +154,34 @@ void frmMain::AlertTo(Label label)
 {
     QAccessibleEvent alert(labels[label], QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void frmMain::NotePast(Label label)
+{
+    for (TileShown& tile : tiles) {
+        // The time's label shows that a day has begun, the level's the sum that wins.
+        const bool concerned = tile.label == label || label == Label::lblGameLevel;
+        if (tile.value && (concerned || label == Label::lblTime)) {
+            tile.past.Note(tile.value());
+        }
+        if (concerned) {
+            labels[tile.label]->setAccessibleDescription(OutlookOf(tile.label));
+        }
+    }
+}
+
+/// Tells what a tile's number means and how it came about.
+bool frmMain::ShowTileTip(const QWidget& tile)
+{
+    const int index = tile.property(TileOf).toInt();
+    const TileShown& shown = tiles[static_cast<std::size_t>(index)];
+    const bool mayKill = shown.label == Label::lblHappy || shown.label == Label::lblEat ||
+                         shown.label == Label::lblHealth;
+    const QString words = "<b>" + labels[shown.label]->accessibleName().toHtmlEscaped() +
+                          "</b><br>" + OutlookOf(shown.label);
+    const auto fatal = mayKill ? std::optional(BoundsOf(shown.label).fatal) : std::nullopt;
+    QToolTip::showText(QCursor::pos(), words + shown.past.Curve(fatal));
+    return true;
 }
 
 void frmMain::closeEvent(QCloseEvent* event)
@@ -171,6 +213,10 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
     // The buttons' keys pass here first.
     if (event->type() == QEvent::KeyPress && HandleKey(*static_cast<QKeyEvent*>(event))) {
         return true;
+    }
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::ToolTip && widget && widget->property(TileOf).isValid()) {
+        return ShowTileTip(*widget);
     }
     return QMainWindow::eventFilter(watched, event);
 }

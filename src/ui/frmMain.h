@@ -5,10 +5,13 @@
 #include <functional>
 #include <vector>
 
+#include "core/GameState.h"
 #include "core/labels.h"
+#include "ui/past.h"
+#include "ui/roomscene.h"
 #include "ui/widgets/gamelabel.h"
 #include "ui/widgets/gauge.h"
-#include "ui/widgets/scene.h"
+#include "ui/widgets/quietlife.h"
 
 class QMenu;
 class QTimer;
@@ -38,6 +41,31 @@ protected:
 
 private:
     using Command = std::function<void()>;
+    /// The property of a tile's labels that tells the tile's number.
+    static constexpr const char* TileOf = "tile";
+
+    /// A statistic, its width in units; without a reading it has no gauge.
+    struct Tile {
+        const char* caption;
+        Label label;
+        double width;
+        Gauge::Kind kind = Gauge::Kind::Share;
+        Gauge::Reading (*reading)() = nullptr;
+        int (*value)() = nullptr; ///< whose past is remembered
+    };
+    struct TileShown {
+        Label label;
+        QString caption;
+        int (*value)();
+        Past past;
+    };
+
+    /// One of a menu's choices, which stands for a value of the game.
+    struct MenuChoice {
+        const char* name;
+        const char* text;
+        int value;
+    };
 
     void BuildClock();
     void BuildStatistics();
@@ -50,22 +78,28 @@ private:
     void BuildHelpMenu();
 
     GameLabel* AddLabel(Label label, const QRectF& place, const Type& type);
-    GameLabel* AddCaption(const QString& text, const QRectF& place, double height);
-    void AddTile(const QString& caption, Label label, const QRectF& place);
-    void AddGauge(const QRectF& tile, Gauge::Kind kind, Gauge::Reading (*reading)());
+    GameLabel* AddCaption(const QString& text, const QRectF& place, const Type& type);
+    void AddTile(const Tile& tile, const QRectF& place);
     void AddRow(const QString& caption, Label label, const QRectF& place);
     QMenu* AddMenu(const QString& title);
     QAction* AddItem(QMenu* menu, const char* name, const QString& text, const Command& command);
+    /// A menu of which one item is the game's present setting and marked.
+    void AddChoices(const QString& title, Int16 Game::*present,
+                    const std::vector<MenuChoice>& choices, void (*choose)(int));
     static void AddSeparator(QMenu* menu, const char* name);
 
     void AlertTo(Label label);
+    void NotePast(Label label);
+    bool ShowTileTip(const QWidget& tile);
     bool HandleKey(const QKeyEvent& event);
 
-    Scene* scene;
+    RoomScene* scene;
     QTimer* tmrTime;
     EnumArray<Label, GameLabel*> labels{};
     std::vector<Gauge*> gauges;
+    std::vector<TileShown> tiles;
     QWidget* pauseVeil;
+    QuietLife* quietLife;
 };
 
 } // namespace torvenhall

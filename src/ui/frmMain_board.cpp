@@ -1,5 +1,8 @@
 // The dashboard of the main window: what stands where. All places in units.
 
+#include <algorithm>
+#include <ranges>
+
 #include "core/GameState.h"
 #include "core/basGame.h"
 #include "core/shown.h"
@@ -20,26 +23,24 @@ namespace
 {
 
 constexpr double Left = 8;
-constexpr double Right = 509.6;
+constexpr double Right = 510;
 constexpr double Gap = 4;
 constexpr double Inner = Right - Left;
 
-constexpr double ClockTop = 6;
-constexpr double ClockHeight = 33;
-constexpr double ClockWidth = 268;
-constexpr double FactsTop = 43;
-constexpr double TileHeight = 40;
-constexpr double VitalsTop = FactsTop + TileHeight + Gap;
-constexpr double ComputerTop = VitalsTop + TileHeight + Gap;
-constexpr double RowHeight = 14.2;
-constexpr double ComputerHeight = 22 + HardwareCategories * RowHeight + 6;
-constexpr double HardwareWidth = 266;
+constexpr QRectF Ribbon(Left, 5, Inner, 24);
+constexpr double TilesTop = 33;
+constexpr double TileHeight = 36;
+// Between the tiles and the computer lies the room.
+constexpr double ComputerTop = 187;
+constexpr double ComputerHeight = 137;
+constexpr double HardwareWidth = 262;
 constexpr double SoftwareWidth = Inner - Gap - HardwareWidth;
-constexpr double CaptionWidth = 72;
-constexpr double MessageTop = ComputerTop + ComputerHeight + Gap;
-constexpr double MessageHeight = 55;
-constexpr double ButtonsTop = MessageTop + MessageHeight + Gap;
-constexpr double ButtonHeight = 27;
+constexpr double HeadHeight = 16;
+constexpr double RowHeight = 13;
+constexpr double CaptionWidth = 66;
+constexpr QRectF MessagePlace(Left, 328, Inner, 46);
+constexpr double ButtonsTop = 378;
+constexpr double ButtonHeight = 37;
 
 // The order differs from that of the categories, and the other software is none.
 struct RowText {
@@ -53,10 +54,6 @@ constexpr RowText SoftwareRows[] = {
     {"Прочее:", Label::lblOther},
 };
 
-constexpr double SoftwareHeight = 22 + std::size(SoftwareRows) * RowHeight + 2;
-
-constexpr int ButtonsInRow = 4;
-
 Gauge::Reading Money()
 {
     const double target = GameState.WinMoney.value();
@@ -68,6 +65,12 @@ Gauge::Reading Rank()
     const int rank = GameState.Education.value();
     const bool hasWord = !ShowStatus(rank).empty();
     return {.share = hasWord ? static_cast<double>(rank) / TopRank : 0, .steps = TopRank};
+}
+
+template <Int16 Game::*field>
+int Value()
+{
+    return (GameState.*field).value();
 }
 
 template <Int16 Game::*field, Label label>
@@ -88,9 +91,9 @@ GameLabel* frmMain::AddLabel(Label label, const QRectF& place, const Type& type)
     return shown;
 }
 
-GameLabel* frmMain::AddCaption(const QString& text, const QRectF& place, double height)
+GameLabel* frmMain::AddCaption(const QString& text, const QRectF& place, const Type& type)
 {
-    auto* caption = new GameLabel({}, TextType(height), scene);
+    auto* caption = new GameLabel({}, type, scene);
     Place(*caption, place);
     caption->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     caption->SetColour(colour::Caption);
@@ -100,121 +103,106 @@ GameLabel* frmMain::AddCaption(const QString& text, const QRectF& place, double 
 
 void frmMain::BuildClock()
 {
-    scene->AddPanel({Left, ClockTop, ClockWidth, ClockHeight}, Scene::Panel::Deep);
-    GameLabel* time = AddLabel(Label::lblTime, {Left + 10, ClockTop, ClockWidth - 20, ClockHeight},
-                               TerminalType(17, true));
-    time->setAlignment(Qt::AlignCenter);
-    const double left = Left + ClockWidth + Gap;
-    scene->AddPanel({left, ClockTop, Right - left, ClockHeight});
-    GameLabel* work =
-        AddLabel(Label::lblCurrWork, {left + 9, ClockTop, Right - left - 18, ClockHeight},
-                 TextType(11.5, true));
-    work->setAlignment(Qt::AlignCenter);
+    scene->AddPanel(Ribbon, Scene::Panel::Deep);
+    AddLabel(Label::lblTime, Ribbon.adjusted(10, 0, -Inner / 2, 0), TerminalType(14.5));
+    AddLabel(Label::lblCurrWork, Ribbon.adjusted(Inner / 2, 0, -10, 0), TextType(13, true))
+        ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
-void frmMain::AddTile(const QString& caption, Label label, const QRectF& place)
+void frmMain::AddTile(const Tile& tile, const QRectF& place)
 {
-    const bool mayTurnRed = place.top() >= VitalsTop;
-    scene->AddPanel(place, mayTurnRed ? Scene::Panel::Deep : Scene::Panel::Glass);
-    const QRectF inside = place.adjusted(9, 0, -9, 0);
-    AddCaption(caption, {inside.left(), place.top() + 2, inside.width(), 15}, 10.5);
-    const double height = label == Label::lblFamily ? 20 : 18;
-    GameLabel* value = AddLabel(label, {inside.left(), place.top() + 15, inside.width(), height},
+    scene->AddPanel(place, Scene::Panel::Deep);
+    const QRectF inside = place.adjusted(6, 0, -5, 0);
+    GameLabel* caption = AddCaption(
+        tile.caption, {inside.left(), place.top() + 2, inside.width(), 14}, CondensedType(11.5));
+    GameLabel* value = AddLabel(tile.label, {inside.left(), place.top() + 13, inside.width(), 17},
                                 TextType(15, true));
-    value->SetSpokenCaption(caption);
-    if (label == Label::lblMoney) {
+    value->SetSpokenCaption(tile.caption);
+    tiles.push_back({tile.label, tile.caption, tile.value, {}});
+    for (GameLabel* each : {caption, value}) {
+        each->setProperty(TileOf, static_cast<int>(tiles.size() - 1));
+        each->installEventFilter(this);
+    }
+    if (tile.label == Label::lblMoney) {
         value->FlashChanges();
     }
-}
-
-void frmMain::AddGauge(const QRectF& tile, Gauge::Kind kind, Gauge::Reading (*reading)())
-{
-    auto* gauge = new Gauge(kind, reading, scene);
-    Place(*gauge, {tile.left() + 9, tile.top() + 34, tile.width() - 18, 3});
-    gauges.push_back(gauge);
+    if (tile.reading) {
+        auto* gauge = new Gauge(tile.kind, tile.reading, scene);
+        Place(*gauge, {inside.left(), place.top() + 30, inside.width(), 4});
+        gauges.push_back(gauge);
+    }
 }
 
 void frmMain::BuildStatistics()
 {
-    const double third = (Inner - 2 * Gap) / 3;
-    const auto fact = [&](int i) {
-        return QRectF(Left + i * (third + Gap), FactsTop, third, TileHeight);
+    using enum Gauge::Kind;
+    // clang-format off
+    const Tile statistics[]{
+        {"Бюджет", Label::lblMoney, 80, Share, Money, [] { return GameState.Money.value(); }},
+        {"Статус", Label::lblStatus, 68, Steps, Rank, Value<&Game::Education>},
+        {"Семья", Label::lblFamily, 70},
+        {"Настроение", Label::lblHappy, 65, AroundZero,
+         Percent<&Game::Happy, Label::lblHappy>, Value<&Game::Happy>},
+        {"Сытость", Label::lblEat, 65, AroundZero,
+         Percent<&Game::EatLevel, Label::lblEat>, Value<&Game::EatLevel>},
+        {"Здоровье", Label::lblHealth, 65, AroundZero,
+         Percent<&Game::Health, Label::lblHealth>, Value<&Game::Health>},
+        {"Образование", Label::lblEducation, 65, Share,
+         Percent<&Game::Intelligence, Label::lblEducation>, Value<&Game::Intelligence>},
     };
-    AddTile("Бюджет", Label::lblMoney, fact(0));
-    AddGauge(fact(0), Gauge::Kind::Share, Money);
-    AddTile("Статус", Label::lblStatus, fact(1));
-    AddGauge(fact(1), Gauge::Kind::Steps, Rank);
-    AddTile("Семья", Label::lblFamily, fact(2));
-
-    struct {
-        const char* caption;
-        Label label;
-        Gauge::Kind kind;
-        Gauge::Reading (*reading)();
-    } const vitals[]{
-        {"Настроение", Label::lblHappy, Gauge::Kind::AroundZero,
-         Percent<&Game::Happy, Label::lblHappy>},
-        {"Сытость", Label::lblEat, Gauge::Kind::AroundZero,
-         Percent<&Game::EatLevel, Label::lblEat>},
-        {"Здоровье", Label::lblHealth, Gauge::Kind::AroundZero,
-         Percent<&Game::Health, Label::lblHealth>},
-        {"Образование", Label::lblEducation, Gauge::Kind::Share,
-         Percent<&Game::Intelligence, Label::lblEducation>},
-    };
-    const double quarter = (Inner - 3 * Gap) / 4;
-    QRectF place(Left, VitalsTop, quarter, TileHeight);
-    for (const auto& vital : vitals) {
-        AddTile(vital.caption, vital.label, place);
-        AddGauge(place, vital.kind, vital.reading);
-        place.translate(quarter + Gap, 0);
+    // clang-format on
+    double left = Left;
+    for (const Tile& tile : statistics) {
+        AddTile(tile, {left, TilesTop, tile.width, TileHeight});
+        left += tile.width + Gap;
     }
 }
 
 void frmMain::AddRow(const QString& caption, Label label, const QRectF& place)
 {
-    AddCaption(caption, {place.left(), place.top(), CaptionWidth - 5, place.height()}, 10.5);
-    GameLabel* name = AddLabel(label, place.adjusted(CaptionWidth, 0, 0, 0), TextType(11));
+    AddCaption(caption, {place.left(), place.top(), CaptionWidth - 5, place.height()},
+               TextType(11));
+    GameLabel* name = AddLabel(label, place.adjusted(CaptionWidth, 0, 0, 0), TextType(11.5));
     name->SetSpokenCaption(QString(caption).remove(':'));
     name->ShowOnHover();
 }
 
 void frmMain::BuildComputer()
 {
-    const double second = Left + HardwareWidth + Gap;
-    constexpr double hardwareText = HardwareWidth - 18;
-    constexpr double softwareText = SoftwareWidth - 18;
-    scene->AddPanel({Left, ComputerTop, HardwareWidth, ComputerHeight});
-    scene->AddPanel({second, ComputerTop, SoftwareWidth, SoftwareHeight});
-    AddCaption("Компьютер (Hardware)", {Left + 9, ComputerTop + 4, hardwareText, 15}, 11.5)
-        ->SetColour(colour::Warm);
-    AddCaption("Компьютер (Software)", {second + 9, ComputerTop + 4, softwareText, 15}, 11.5)
-        ->SetColour(colour::Warm);
-    double top = ComputerTop + 22;
-    for (const HardwareCategory& row : Hardware) {
-        AddRow(Text(row.name), row.label, {Left + 9, top, hardwareText, RowHeight});
-        top += RowHeight;
+    const QRectF hardware(Left, ComputerTop, HardwareWidth, ComputerHeight);
+    const QRectF software(hardware.right() + Gap, ComputerTop, SoftwareWidth, ComputerHeight);
+    const auto addHead = [this](const QString& text, const QRectF& panel) {
+        scene->AddPanel(panel);
+        AddCaption(text, {panel.left() + 8, panel.top() + 2, panel.width() - 16, HeadHeight - 1},
+                   TextType(12, true))
+            ->SetColour(colour::Warm);
+    };
+    const auto rowOf = [](const QRectF& panel, int row) {
+        // The letters' feet reach below.
+        return QRectF(panel.left() + 8, panel.top() + HeadHeight - 1 + row * RowHeight,
+                      panel.width() - 16, RowHeight + 4);
+    };
+    addHead("Компьютер (Hardware)", hardware);
+    addHead("Компьютер (Software)", software);
+    int row = 0;
+    for (const HardwareCategory& category : Hardware) {
+        AddRow(Text(category.name), category.label, rowOf(hardware, row++));
     }
-    top = ComputerTop + 22;
-    for (const RowText& row : SoftwareRows) {
-        AddRow(row.caption, row.label, {second + 9, top, softwareText, RowHeight});
-        top += RowHeight;
+    row = 0;
+    for (const RowText& program : SoftwareRows) {
+        AddRow(program.caption, program.label, rowOf(software, row++));
     }
-    const double settings = ComputerTop + SoftwareHeight + Gap;
-    const double height = ComputerTop + ComputerHeight - settings;
-    scene->AddPanel({second, settings, SoftwareWidth, height});
-    const double line = height / 2 - 1;
-    AddLabel(Label::lblGameLevel, {second + 9, settings + 1, softwareText, line}, TextType(10.5));
-    AddLabel(Label::lblGameSpeed, {second + 9, settings + 1 + line, softwareText, line},
-             TextType(10.5));
+    for (const Label setting : {Label::lblGameLevel, Label::lblGameSpeed}) {
+        AddLabel(setting, rowOf(software, row++), TextType(11))->SetColour(colour::Caption);
+    }
 }
 
 void frmMain::BuildMessageLine()
 {
-    const QRectF place(Left, MessageTop, Inner, MessageHeight);
-    scene->AddPanel(place, Scene::Panel::Deep);
+    scene->AddPanel(MessagePlace, Scene::Panel::Deep);
     auto* messageLine =
-        new TerminalLabel(Text(LabelNames[Label::lblMessage]), TerminalType(11), scene);
-    Place(*messageLine, place.adjusted(9, 2, -8, -1));
+        new TerminalLabel(Text(LabelNames[Label::lblMessage]), TerminalType(11.5), scene);
+    Place(*messageLine, MessagePlace.adjusted(8, 1, -6, -1));
     messageLine->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     messageLine->setWordWrap(true);
     labels[Label::lblMessage] = messageLine;
@@ -222,22 +210,20 @@ void frmMain::BuildMessageLine()
 
 void frmMain::BuildButtons()
 {
-    const double width = (Inner - (ButtonsInRow - 1) * Gap) / ButtonsInRow;
-    int i = 0;
-    for (const WindowRow& row : WindowTable()) {
-        if (row.button == nullptr) {
-            continue;
-        }
+    const auto isButton = [](const WindowRow& row) { return row.button != nullptr; };
+    const auto count = std::ranges::count_if(WindowTable(), isButton);
+    const double width =
+        (Inner - Gap * static_cast<double>(count - 1)) / static_cast<double>(count);
+    double left = Left;
+    for (const WindowRow& row : WindowTable() | std::views::filter(isButton)) {
         auto* button = new GameButton(row.button, row.caption, scene);
-        const int column = i % ButtonsInRow, line = i / ButtonsInRow;
-        const double left = Left + column * (width + Gap);
-        const double top = ButtonsTop + line * (ButtonHeight + Gap);
-        Place(*button, {left, top, width, ButtonHeight});
+        Place(*button, {left, ButtonsTop, width, ButtonHeight});
         button->SetGlyph(row.glyph);
+        button->Stack();
         button->installEventFilter(this);
         connect(button, &QAbstractButton::clicked, this,
                 [&row] { EnterRules([&row] { Open(row); }); });
-        ++i;
+        left += width + Gap;
     }
 }
 

@@ -1,7 +1,9 @@
 // The menus of the main window, in order.
 
+#include <QActionGroup>
 #include <QMenuBar>
 
+#include "core/GameState.h"
 #include "core/basGame.h"
 #include "core/port.h"
 #include "game/commands.h"
@@ -14,24 +16,6 @@
 
 namespace torvenhall
 {
-
-namespace
-{
-
-template <int chosen>
-void ChooseLevel()
-{
-    Int16 level = chosen;
-    SetGameLevel(level);
-}
-
-template <int speed>
-void ChooseSpeed()
-{
-    SetGameSpeed(speed);
-}
-
-} // namespace
 
 QMenu* frmMain::AddMenu(const QString& title)
 {
@@ -47,6 +31,22 @@ QAction* frmMain::AddItem(QMenu* menu, const char* name, const QString& text,
         connect(action, &QAction::triggered, this, [command] { EnterRules(command); });
     }
     return action;
+}
+
+void frmMain::AddChoices(const QString& title, Int16 Game::*present,
+                         const std::vector<MenuChoice>& choices, void (*choose)(int))
+{
+    QMenu* menu = AddMenu(title);
+    auto* group = new QActionGroup(menu);
+    for (const MenuChoice& choice : choices) {
+        QAction* action = AddItem(menu, choice.name, choice.text,
+                                  [choose, value = choice.value] { choose(value); });
+        action->setCheckable(true);
+        group->addAction(action);
+        connect(menu, &QMenu::aboutToShow, action, [action, present, value = choice.value] {
+            action->setChecked(GameState.*present == value);
+        });
+    }
 }
 
 void frmMain::AddSeparator(QMenu* menu, const char* name)
@@ -80,14 +80,19 @@ void frmMain::BuildGameMenu()
 
 void frmMain::BuildSettingsMenus()
 {
-    QMenu* level = AddMenu("&Уровень игры");
-    AddItem(level, "mnuLevelHard", "Сложный", ChooseLevel<0>);
-    AddItem(level, "mnuLevelMiddle", "Нормальный", ChooseLevel<1>);
-    AddItem(level, "mnuLevelEasy", "Простой", ChooseLevel<2>);
-    QMenu* speed = AddMenu("&Скорость игры");
-    AddItem(speed, "mnuSpeedFast", "Быстрый", ChooseSpeed<60>);
-    AddItem(speed, "mnuSpeedNormal", "Нормальный", ChooseSpeed<30>);
-    AddItem(speed, "mnuSpeedSlow", "Медленный", ChooseSpeed<15>);
+    AddChoices("&Уровень игры", &Game::GameLevel,
+               {{"mnuLevelHard", "Сложный", 0},
+                {"mnuLevelMiddle", "Нормальный", 1},
+                {"mnuLevelEasy", "Простой", 2}},
+               [](int chosen) {
+                   Int16 level = chosen;
+                   SetGameLevel(level);
+               });
+    AddChoices("&Скорость игры", &Game::GameSpeed,
+               {{"mnuSpeedFast", "Быстрый", 60},
+                {"mnuSpeedNormal", "Нормальный", 30},
+                {"mnuSpeedSlow", "Медленный", 15}},
+               [](int chosen) { SetGameSpeed(chosen); });
 }
 
 void frmMain::BuildHelpMenu()

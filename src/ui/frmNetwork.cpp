@@ -22,10 +22,14 @@ namespace
 constexpr double Width = 640;
 constexpr double Height = 440;
 constexpr double PanelTop = 58;
-constexpr double PanelHeight = 328;
-constexpr double InternetWidth = 396;
-constexpr double BoardLeft = 14 + InternetWidth + 10;
+constexpr double InternetWidth = 378;
+constexpr double InternetHeight = 176;
+constexpr double BoardLeft = 450;
 constexpr double BoardWidth = Width - 14 - BoardLeft;
+constexpr double BoardHeight = 198;
+constexpr double LinksTop = 62; // of the Internet's own buttons, in its panel
+constexpr double SitesTop = InternetHeight + 8;
+constexpr double SitesHeight = 140; // of the largest site
 
 constexpr int RefreshMilliseconds = 100;
 
@@ -37,7 +41,7 @@ constexpr double SiteHidden = -10000 / 15.0; // and where it is put away
 frmNetwork::frmNetwork(QWidget* parent)
     : ActivityWindow({"frmNetwork", "Выход в свет", "NET", Width, Height}, parent)
 {
-    AddSlogan("Label6", "Label7", "Всемирная паутина и один паук", {20, 14, Width - 40, 34});
+    AddSlogan("Label6", "Label7", "Всемирная паутина и один паук", Sign::Neon);
     BuildInternet();
     BuildSites();
     BuildBoard();
@@ -71,29 +75,29 @@ GameLabel* frmNetwork::AddText(const char* name, const QString& text, const QRec
 
 void frmNetwork::BuildInternet()
 {
-    Surface().AddPanel({14, PanelTop, InternetWidth, PanelHeight});
-    AddLabel("Label9", "Dial-Up Networking", {26, PanelTop + 7, 220, 20}, TextType(13, true))
+    Surface().AddPanel({14, PanelTop, InternetWidth, InternetHeight});
+    AddLabel("Label9", "Dial-Up Networking", {26, PanelTop + 6, 220, 20}, TextType(14, true))
         ->SetColour(colour::Warm);
-    inetDial = AddCommand("Command1", "Звонить ($1/час)", {26, PanelTop + 31, 150, 27}, &Surface(),
+    inetDial = AddCommand("Command1", "Звонить ($1/час)", {26, PanelTop + 29, 150, 27}, &Surface(),
                           DialInternet);
     inetDial->SetGlyph(Glyph::Phone);
     inetDial->SetEnterPresses(false);
     inetStatus =
-        AddLabel("Label1", {}, {186, PanelTop + 29, InternetWidth - 184, 22}, TerminalType(11.5));
+        AddLabel("Label1", {}, {186, PanelTop + 29, InternetWidth - 184, 20}, TerminalType(11.5));
     inetStatus->SetColour(colour::LightCyan);
     inetMark = new WaitMark(&Surface());
-    Place(*inetMark, {186, PanelTop + 53, InternetWidth - 184, 3});
+    Place(*inetMark, {186, PanelTop + 51, InternetWidth - 184, 3});
 
     internet = new QWidget(&Surface());
     internet->setObjectName("Picture1");
-    Place(*internet, {14, PanelTop + 64, InternetWidth, PanelHeight - 64});
-    GameButton* home = AddCommand("Command2", "<<< HomePage >>>", {12, 4, InternetWidth - 24, 25},
+    Place(*internet, {14, PanelTop + LinksTop, InternetWidth, SitesTop + SitesHeight - LinksTop});
+    GameButton* home = AddCommand("Command2", "<<< HomePage >>>", {12, 4, InternetWidth - 24, 24},
                                   internet, nullptr);
     connect(home, &QAbstractButton::clicked, this, [this] { ShowSite(-1); });
     for (int i = 0; i < Sites; ++i) {
-        const double top = 33.0 + 29 * i;
+        const double top = 31.0 + 27 * i;
         GameButton* place = AddCommand("cmdChangeLocation", Text(SiteAddress(i)),
-                                       {12, top, InternetWidth - 24, 25}, internet, nullptr);
+                                       {12, top, InternetWidth - 24, 24}, internet, nullptr);
         place->setObjectName(QString("cmdChangeLocation%1").arg(i));
         place->SetGlyph(Glyph::Globe);
         place->SetAlignment(Qt::AlignLeft);
@@ -113,26 +117,26 @@ QWidget* frmNetwork::AddSite(int location, const QRectF& place)
 
 void frmNetwork::BuildSites()
 {
-    const QRectF place(SiteShown, 124, InternetWidth - 2 * SiteShown, PanelHeight - 64 - 124 - 8);
-    const double inner = place.width() - 20;
+    const double left = SiteShown, top = SitesTop - LinksTop, width = InternetWidth - 2 * SiteShown;
+    const double inner = width - 20;
 
-    QWidget* antivirus = AddSite(0, place);
-    AddText("Label5", Text(SiteAddress(0)), {10, 8, inner, 20}, antivirus, 12)
+    QWidget* antivirus = AddSite(0, {left, top, width, 76});
+    AddText("Label5", Text(SiteAddress(0)), {10, 8, inner, 20}, antivirus, 13)
         ->SetColour(colour::LightCyan);
     AddCommand("Command7", "Get Last Antivirus Database", {10, 38, inner, 28}, antivirus,
                DownloadAntivirus)
         ->SetGlyph(Glyph::Download);
 
-    QWidget* software = AddSite(1, place);
+    QWidget* software = AddSite(1, {left, top, width, 76});
     AddText("Label3", Text(SiteAddress(1)) + " -- Самый свежий софт!", {10, 8, inner, 20}, software,
-            12)
+            13)
         ->SetColour(colour::LightCyan);
     download = AddCommand("Command6",
                           "Download Cool, Necessary and Freeware Programs and Utilites for FREE!!!",
                           {10, 38, inner, 28}, software, DownloadSoftware);
 
-    QWidget* anecdotes = AddSite(2, place);
-    AddText("Label4", Text(SiteAddress(2)), {10, 5, inner - 170, 24}, anecdotes, 12)
+    QWidget* anecdotes = AddSite(2, {left, top, width, SitesHeight});
+    AddText("Label4", Text(SiteAddress(2)), {10, 5, inner - 170, 24}, anecdotes, 13)
         ->SetColour(colour::LightCyan);
     GameButton* next =
         AddCommand("cmdRnd", "Next Random Anecdot", {inner - 156, 5, 166, 24}, anecdotes, nullptr);
@@ -142,34 +146,36 @@ void frmNetwork::BuildSites()
     anecdote->setAccessibleName("Anecdot");
     anecdote->setAcceptRichText(false);
     anecdote->setTabChangesFocus(true);
-    Dress(*anecdote, TextType(12));
-    Place(*anecdote, {10, 34, inner, place.height() - 42});
+    Dress(*anecdote, TextType(13));
+    Place(*anecdote, {10, 34, inner, SitesHeight - 42});
 }
 
 void frmNetwork::BuildBoard()
 {
-    Surface().AddPanel({BoardLeft, PanelTop, BoardWidth, PanelHeight});
+    Surface().AddPanel({BoardLeft, PanelTop, BoardWidth, BoardHeight});
     const double left = BoardLeft + 12;
     const double inner = BoardWidth - 24;
-    AddLabel("Label10", "Microsoft HyperTerminal", {left, PanelTop + 7, inner, 20},
-             TextType(13, true))
+    AddLabel("Label10", "Microsoft HyperTerminal", {left, PanelTop + 6, inner, 20},
+             TextType(14, true))
         ->SetColour(colour::Warm);
     bbsDial =
-        AddCommand("Command5", "Звонить", {left, PanelTop + 31, inner, 27}, &Surface(), DialBoard);
+        AddCommand("Command5", "Звонить", {left, PanelTop + 29, inner, 27}, &Surface(), DialBoard);
     bbsDial->SetGlyph(Glyph::Phone);
-    bbsStatus = AddLabel("Label2", {}, {left, PanelTop + 62, inner, 22}, TerminalType(11.5));
+    bbsStatus = AddLabel("Label2", {}, {left, PanelTop + 58, inner, 28}, TerminalType(11));
+    bbsStatus->setWordWrap(true);
+    bbsStatus->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     bbsStatus->SetColour(colour::LightCyan);
     bbsMark = new WaitMark(&Surface());
-    Place(*bbsMark, {left, PanelTop + 86, inner, 3});
+    Place(*bbsMark, {left, PanelTop + 87, inner, 3});
 
     bulletin = new QWidget(&Surface());
     bulletin->setObjectName("Picture2");
-    Place(*bulletin, {BoardLeft, PanelTop + 98, BoardWidth, 76});
+    Place(*bulletin, {BoardLeft, PanelTop + 91, BoardWidth, 68});
     AddCommand("cmdBBSDownload", "Download Soft", {12, 4, inner, 28}, bulletin, ReceiveFromBoard)
         ->SetGlyph(Glyph::Download);
-    AddCommand("cmdBBSUpload", "Upload Soft", {12, 38, inner, 28}, bulletin, SendToBoard)
+    AddCommand("cmdBBSUpload", "Upload Soft", {12, 36, inner, 28}, bulletin, SendToBoard)
         ->SetGlyph(Glyph::Upload);
-    AddCommand("Command8", "Hang-Up", {left, PanelTop + 176, inner, 28}, &Surface(), DialBoard)
+    AddCommand("Command8", "Hang-Up", {left, PanelTop + 159, inner, 28}, &Surface(), DialBoard)
         ->SetGlyph(Glyph::HangUp);
 }
 

@@ -11,14 +11,14 @@ namespace torvenhall
 frmPause::frmPause(QWidget* parent) : GameWindow("frmPause", 320, 204, parent)
 {
     setWindowTitle("Игра приостановлена");
-    Surface().ShowPicture("MAINPICTURE");
-    AddSlogan("Label1", "Label2", "Игра приостановлена", {24, 12, 272, 40}, 20);
-    Surface().AddPanel({36, 62, 248, 126});
-    GameButton* resume = AddButton("Command1", "Продолжить", {50, 74, 220, 30});
+    Surface().ShowPicture("PAUSEPICTURE");
+    Surface().AddPanel({36, 66, 248, 128});
+    AddHeading("Label1", "Label2", "Игра приостановлена", {50, 68, 220, 24}, 16);
+    GameButton* resume = AddButton("Command1", "Продолжить", {50, 95, 220, 28});
     resume->SetGlyph(Glyph::Play);
-    GameButton* save = AddButton("Command2", "Сохранить игру", {50, 110, 220, 30});
+    GameButton* save = AddButton("Command2", "Сохранить игру", {50, 127, 220, 28});
     save->SetGlyph(Glyph::Diskette);
-    GameButton* minimise = AddButton("Command3", "Свернуть игру", {50, 146, 220, 30});
+    GameButton* minimise = AddButton("Command3", "Свернуть игру", {50, 159, 220, 28});
     minimise->SetGlyph(Glyph::Minimise);
     connect(resume, &QAbstractButton::clicked, this, &frmPause::reject);
     connect(save, &QAbstractButton::clicked, this, [] { EnterRules(SaveGame); });

@@ -18,16 +18,16 @@ frmPlayerName::frmPlayerName(const NewPlayer& shown, QWidget* parent)
     : GameWindow("frmPlayerName", 500, 412, parent)
 {
     setWindowTitle("Имя игрока");
-    Surface().ShowPicture("MAINPICTURE");
-    Surface().AddPanel({14, 152, 472, 246});
+    Surface().ShowPicture("TITLEPICTURE");
+    Surface().AddPanel({14, 98, 286, 300});
 
-    AddLabel("Label1", "Введите Ваше имя:", {30, 164, 240, 20}, TextType(13, true))
-        ->SetColour(colour::LightCyan);
+    AddLabel("Label1", "Введите Ваше имя:", {28, 106, 258, 20}, TextType(14, true))
+        ->SetColour(colour::Warm);
     name = new QLineEdit(Text(shown.name), &Surface());
     name->setObjectName("Text1");
     name->setAccessibleName("Имя");
-    Dress(*name, TextType(13));
-    Place(*name, {30, 188, 282, 28});
+    Dress(*name, TextType(14));
+    Place(*name, {28, 130, 258, 30});
     name->installEventFilter(this);
     level = new QComboBox(&Surface());
     level->setObjectName("Combo1");
@@ -37,7 +37,7 @@ frmPlayerName::frmPlayerName(const NewPlayer& shown, QWidget* parent)
     level->view()->setAccessibleName("Уровень сложности");
     level->addItems({"Сложный", "Нормальный", "Простой"});
     level->setCurrentIndex(shown.level);
-    Place(*level, {322, 188, 148, 28});
+    Place(*level, {28, 166, 258, 28});
     AddLabel("Label2",
              "Введите Ваше имя и выберите уровень сложности, нажмите ОК и играйте!\n"
              "\n"
@@ -46,11 +46,11 @@ frmPlayerName::frmPlayerName(const NewPlayer& shown, QWidget* parent)
              "Пауза — клавиша «p» (русская «з»): часы ждать не станут.\n"
              "Сохраняйтесь почаще: Ctrl+S.\n"
              "Советы на первую неделю — в справке, F1.",
-             {30, 224, 440, 126}, TextType(11.5))
+             {28, 202, 258, 150}, TextType(13))
         ->setWordWrap(true);
 
-    GameButton* accept = AddButton("Command1", "OK", {262, 356, 100, 30});
-    GameButton* cancel = AddButton("Command2", "Отмена", {370, 356, 100, 30});
+    GameButton* accept = AddButton("Command1", "OK", {82, 358, 98, 30});
+    GameButton* cancel = AddButton("Command2", "Отмена", {188, 358, 98, 30});
     connect(accept, &QAbstractButton::clicked, this, &QDialog::accept);
     connect(cancel, &QAbstractButton::clicked, this, &frmPlayerName::reject);
     connect(name, &QLineEdit::returnPressed, this, &QDialog::accept);

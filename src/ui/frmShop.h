@@ -9,7 +9,7 @@ namespace torvenhall
 class frmShop : public ServiceSeller
 {
 public:
-    explicit frmShop(QWidget* parent) : ServiceSeller("frmShop", FoodShop, parent) {}
+    explicit frmShop(QWidget* parent) : ServiceSeller("frmShop", FoodShop, Sign::Awning, parent) {}
 };
 
 } // namespace torvenhall

@@ -10,7 +10,7 @@ frmSoft::frmSoft(QWidget* parent)
                     {"cmdUpgrade", SoftwareCategories, 320, SoftwareOffer, InstallNextSoftware},
                     parent)
 {
-    AddSlogan("Label4", "cmdUpgraded", "А Вы удалили MS DOS 1.0?", {20, 14, 520, 34});
+    AddSlogan("Label4", "cmdUpgraded", "А Вы удалили MS DOS 1.0?", Sign::Card);
 }
 
 } // namespace torvenhall

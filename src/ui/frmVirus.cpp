@@ -41,16 +41,16 @@ frmVirus::frmVirus(QWidget* parent) : GameWindow("frmVirus", Width, Height, pare
     picture->setObjectName("Image1");
     picture->setScaledContents(true);
     Place(*picture, {0, 0, Width, Height});
-    auto* panel = new Scene(Width - 24, 84, &Surface());
-    Place(*panel, {12, Height - 84 - 12, Width - 24, 84});
-    panel->AddPanel({0, 0, Width - 24, 84}, Scene::Panel::Deep);
+    auto* panel = new Scene(Width - 24, 68, &Surface());
+    Place(*panel, {12, Height - 68 - 10, Width - 24, 68});
+    panel->AddPanel({0, 0, Width - 24, 68}, Scene::Panel::Deep);
 
     GameLabel* text = AddLabel("Label1", "На Вашем компьютере обнаружен злой вирус!",
-                               {24, Height - 88, Width - 48, 26}, TextType(14, true));
+                               {24, Height - 75, Width - 48, 24}, TextType(15, true));
     text->setAlignment(Qt::AlignCenter);
     text->SetColour(colour::LightCyan);
-    GameButton* kill = AddButton("Command1", "Убить антивирусником", {24, Height - 54, 172, 30});
-    GameButton* release = AddButton("Command2", "Отпустить на волю", {204, Height - 54, 172, 30});
+    GameButton* kill = AddButton("Command1", "Убить антивирусником", {24, Height - 47, 172, 30});
+    GameButton* release = AddButton("Command2", "Отпустить на волю", {204, Height - 47, 172, 30});
     for (GameButton* each : {kill, release}) {
         each->SetEnterPresses(false);
     }

@@ -9,7 +9,7 @@ namespace torvenhall
 
 frmWork::frmWork(QWidget* parent) : ActivityWindow({"frmWork", "Работа", "WORK"}, parent)
 {
-    AddSlogan("Label2", "Label3", "Центр занятости населения", {20, 14, 520, 34});
+    AddSlogan("Label2", "Label3", "Центр занятости населения", Sign::Office);
     std::vector<std::pair<QString, QString>> captions;
     captions.reserve(JobButtons);
     for (int i = 0; i < JobButtons; ++i) {

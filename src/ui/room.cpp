@@ -13,16 +13,12 @@ namespace
 {
 
 constexpr double Width = 518, Height = 420;
-/// Above it the larger copy of the picture is the sharper one.
-constexpr double PictureScale = 2;
 
 } // namespace
 
 void PaintRoom(QPainter& painter, const RoomLook& look, double pixelRatio)
 {
-    const bool large = UnitScale() * pixelRatio > PictureScale;
-    const QPixmap base =
-        LoadPicture(large ? "MAINPICTURE4" : "MAINPICTURE", PxSize(Width, Height), pixelRatio);
+    const QPixmap base = LoadPicture("MAINPICTURE", PxSize(Width, Height), pixelRatio);
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.drawPixmap(0, 0, base);

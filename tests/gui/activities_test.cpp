@@ -1,10 +1,12 @@
 // What the main window and the places in town do beside showing their texts:
 // what the game changes in an open window, the messages, the gauges.
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTextDocumentFragment>
+#include <QToolTip>
 
 #include "equipment/basEquipment.h"
 #include "resources/basLangMGR.h"
@@ -82,6 +84,19 @@ TEST_F(Activities, EveryStatisticIsSpokenHoveredAndGauged)
     EXPECT_EQ(LabelOf(Label::lblHealth).accessibleName(), "Здоровье: -30%, опасно");
     ShowLabel(Label::lblGames, "Quake I");
     EXPECT_EQ(LabelOf(Label::lblGames).toolTip(), "Quake I");
+    const auto tip = [](Label label) {
+        QWidget& shown = LabelOf(label);
+        QHelpEvent hovered(QEvent::ToolTip, {}, shown.mapToGlobal(QPoint(1, 1)));
+        QApplication::sendEvent(&shown, &hovered);
+        return QToolTip::text();
+    };
+    EXPECT_TRUE(tip(Label::lblEat).contains("смерть при −35%"));
+    EXPECT_FALSE(tip(Label::lblEat).contains("<img")) << "one day is no past";
+    GameState.GameDate = MakeDate(2, 1, 2001);
+    SetEatLevel(70);
+    EXPECT_TRUE(tip(Label::lblEat).contains("<img"));
+    EXPECT_EQ(LabelOf(Label::lblMoney).accessibleDescription(),
+              "для победы нужно больше $10000, не хватает $9986");
     const std::tuple<Label, void (*)(), bool> changes[]{
         {Label::lblMoney, [] { SetMoney(4000); }, true},
         {Label::lblMoney, [] { Choose("mnuLevelEasy"); }, true},

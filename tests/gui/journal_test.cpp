@@ -22,7 +22,7 @@ struct Journal : Play {
     {
         const QImage shown = window.findChild<QWidget*>()->grab().toImage(); // its scene
         for (const char* key :
-             {"MAIN", "HARD", "SOFT", "HAPPY", "WORK", "HOSP", "SHOP", "EDUC", "NET", "VIRUS"}) {
+             {"HARD", "SOFT", "HAPPY", "WORK", "HOSP", "SHOP", "EDUC", "NET", "VIRUS"}) {
             const QImage picture =
                 LoadPicture(std::string(key) + "PICTURE", shown.size(), 1).toImage();
             int same = 0;

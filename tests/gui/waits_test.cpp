@@ -13,6 +13,7 @@
 #include "savegame/savegame.h"
 #include "support/play.h"
 #include "system/basSystem.h"
+#include "ui/widgets/quietlife.h"
 
 using namespace torvenhall;
 using namespace torvenhall::test;
@@ -32,6 +33,22 @@ struct Waits : Play {
 struct HurriedWaits : Waits {
     HurriedWaits() : Waits(25) {}
 };
+
+TEST_F(Waits, TheQuietLifeRestsWhilePausedAndWhereNothingShallMove)
+{
+    int steps = 0;
+    QuietLife quiet(&Main(), [&] { ++steps; });
+    const auto stepsIn = [&](bool paused, bool still) {
+        SetStillLife(still);
+        quiet.SetPaused(paused);
+        return steps = 0, QTest::qWait(600), steps;
+    };
+    EXPECT_TRUE(Until([&] { return Main().isActiveWindow(); }));
+    const bool moves = !OnBattery();
+    EXPECT_EQ(stepsIn(false, false) > 0, moves);
+    EXPECT_EQ(stepsIn(true, false), 0);
+    EXPECT_EQ(stepsIn(false, true), 0);
+}
 
 TEST_F(Waits, ASaveConfirmedWhileAMessageIsTypedIsWrittenAtOnceAndStays)
 {

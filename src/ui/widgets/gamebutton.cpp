@@ -15,6 +15,7 @@ namespace
 {
 constexpr double SidePadding = 9;
 constexpr double GlyphSize = 15;
+constexpr double StackedGlyphSize = 17;
 constexpr double GlyphGap = 7;
 } // namespace
 
@@ -32,6 +33,12 @@ void GameButton::SetGlyph(Glyph newGlyph)
 {
     glyph = newGlyph;
     update();
+}
+
+void GameButton::Stack()
+{
+    stacked = true;
+    Dress(*this, CondensedType(12.5));
 }
 
 void GameButton::SetMuted(bool newMuted)
@@ -64,6 +71,9 @@ QSize GameButton::sizeHint() const
 
 QRectF GameButton::TextPlace() const
 {
+    if (stacked) {
+        return QRectF(rect()).adjusted(Px(2), height() * 0.55, -Px(2), -Px(2));
+    }
     QRectF place = QRectF(rect()).adjusted(Px(SidePadding), 0, -Px(SidePadding), 0);
     if (glyph != Glyph::None) {
         place.setLeft(place.left() + Px(GlyphSize + GlyphGap));
@@ -126,6 +136,15 @@ void GameButton::PaintFace(QPainter& painter) const
     }
 }
 
+void GameButton::PaintStacked(QPainter& painter) const
+{
+    const double down = isDown() ? Px(1) : 0;
+    QRectF square(0, 0, Px(StackedGlyphSize), Px(StackedGlyphSize));
+    square.moveCenter({rect().center().x() + 0.5, height() * 0.32 + down});
+    DrawGlyph(painter, glyph, square, isEnabled() ? colour::Warm : Ink());
+    DrawFitted(painter, TextPlace().translated(0, down), Qt::AlignCenter, text());
+}
+
 void GameButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
@@ -134,6 +153,10 @@ void GameButton::paintEvent(QPaintEvent*)
 
     painter.setFont(font());
     painter.setPen(Ink());
+    if (stacked) {
+        PaintStacked(painter);
+        return;
+    }
     QRectF place = TextPlace();
     if (isDown()) {
         place.translate(0, Px(1));

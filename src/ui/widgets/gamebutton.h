@@ -16,6 +16,8 @@ public:
 
     void SetGlyph(Glyph newGlyph);
     void SetAlignment(Qt::Alignment newAlignment) { alignment = newAlignment; }
+    /// Draws the glyph above the caption.
+    void Stack();
     /// Looks out of reach (the money does not suffice) but can be clicked.
     void SetMuted(bool newMuted);
     bool IsMuted() const { return muted; }
@@ -40,11 +42,13 @@ protected:
 private:
     QRectF TextPlace() const;
     void PaintFace(QPainter& painter) const;
+    void PaintStacked(QPainter& painter) const;
     QColor Ink() const;
 
     Glyph glyph = Glyph::None;
     Qt::Alignment alignment = Qt::AlignCenter;
     bool muted = false;
+    bool stacked = false;
     bool enterPresses = true;
 };
 

@@ -1,5 +1,6 @@
 #include "ui/widgets/gamelabel.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -7,8 +8,10 @@
 
 #include "core/shown.h"
 #include "ui/widgets/fittext.h"
+#include "ui/widgets/glyphs.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
+#include "ui/widgets/quietlife.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
@@ -67,6 +70,9 @@ void GameLabel::ShowOnHover()
 
 void GameLabel::Flash()
 {
+    if (StillLife()) {
+        return;
+    }
     lit = true;
     update();
     QTimer::singleShot(FlashMilliseconds, this, [this] {
@@ -111,6 +117,17 @@ QFont GameLabel::WrappedFont(bool* fits) const
     }
 }
 
+/// Danger is not told by its colour alone.
+void GameLabel::PaintWarning(QPainter& painter) const
+{
+    const double side = Px(12);
+    const double left = QFontMetricsF(font()).horizontalAdvance(text()) + Px(3);
+    if (left + side <= width()) {
+        const QRectF sign(left, (height() - side) / 2.0, side, side);
+        DrawGlyph(painter, Glyph::Exclamation, sign, colour::Warm);
+    }
+}
+
 void GameLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
@@ -122,6 +139,9 @@ void GameLabel::paintEvent(QPaintEvent*)
     painter.setFont(font());
     if (!wordWrap()) {
         DrawFitted(painter, contentsRect(), alignment(), text());
+        if (colour == colour::Danger && !text().isEmpty()) {
+            PaintWarning(painter);
+        }
         return;
     }
     QTextLayout layout(text(), WrappedFont());

@@ -42,6 +42,7 @@ protected:
 
 private:
     void Flash();
+    void PaintWarning(QPainter& painter) const;
 
     QColor colour;
     QString spokenCaption;

@@ -5,8 +5,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
+#include <QPainter>
 #include <QPushButton>
 
+#include "ui/widgets/colours.h"
+#include "ui/widgets/face.h"
 #include "ui/widgets/helpkey.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
@@ -98,6 +101,15 @@ bool GameMessageBox::event(QEvent* event)
         Arrange();
     }
     return taken;
+}
+
+void GameMessageBox::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintWall(painter, rect());
+    const double margin = Px(7);
+    PaintPanel(painter, QRectF(rect()).adjusted(margin, margin, -margin, -margin), colour::Panel);
 }
 
 void GameMessageBox::showEvent(QShowEvent* event)

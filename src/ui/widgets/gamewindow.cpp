@@ -2,6 +2,8 @@
 
 #include <QCloseEvent>
 
+#include <algorithm>
+
 #include "ui/widgets/helpkey.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/scale.h"
@@ -40,14 +42,29 @@ GameButton* GameWindow::AddButton(const QString& name, const QString& caption, c
 }
 
 void GameWindow::AddSlogan(const QString& name, const QString& shadowName, const QString& text,
-                           const QRectF& place, double height)
+                           Sign sign, double height)
 {
+    constexpr double padding = 16;
+    const double width = std::min(SignWidth(text, height), widthUnits - 2 * Margin);
+    const QRectF plate(Margin, 12, width, height + 15);
+    scene->AddSign(plate, sign);
     const Type type = TextType(height, true);
-    scene->AddPanel({0, 0, widthUnits, place.bottom() + 26}, Scene::Panel::Shade);
-    GameLabel* shadow = AddLabel(shadowName, text, place.translated(1.6, 1.8), type);
-    shadow->SetColour(QColor(0, 0, 0, 210));
-    GameLabel* slogan = AddLabel(name, text, place, type);
-    slogan->SetColour(colour::LightCyan);
+    const QRectF place = plate.adjusted(padding, 2, -padding / 2, -2);
+    const auto add = [&](const QString& label, SignLabel::Part part, const QRectF& at) {
+        auto* made = new SignLabel(label, sign, part, type, scene);
+        Place(*made, at);
+        made->ShowText(text);
+    };
+    add(shadowName, SignLabel::Part::Shadow, place.translated(1.2, 1.4));
+    add(name, SignLabel::Part::Letters, place);
+}
+
+void GameWindow::AddHeading(const QString& name, const QString& shadowName, const QString& text,
+                            const QRectF& place, double height)
+{
+    AddLabel(shadowName, text, place.translated(1.2, 1.4), TextType(height, true))
+        ->SetColour(QColor(0, 0, 0, 210));
+    AddLabel(name, text, place, TextType(height, true))->SetColour(colour::LightCyan);
 }
 
 GameButton* GameWindow::AddBack(const QString& name, const QString& caption)

@@ -34,7 +34,7 @@ protected:
     // Where "Назад" stands, in units.
     static constexpr double Margin = 14;
     static constexpr double BackWidth = 104;
-    static constexpr double BackHeight = 30;
+    static constexpr double BackHeight = 36;
 
     /// Whether the window takes Esc and its close box; what they mean is
     /// `reject`.
@@ -43,10 +43,14 @@ protected:
     GameLabel* AddLabel(const QString& name, const QString& text, const QRectF& place,
                         const Type& type);
     GameButton* AddButton(const QString& name, const QString& caption, const QRectF& place);
-    /// The slogan, drawn by two labels of the same text, the second one its
-    /// shadow.
+    /// The slogan as a sign of the place, at its upper left corner: two labels
+    /// of the same text, the second one the letters' shadow.
     void AddSlogan(const QString& name, const QString& shadowName, const QString& text,
-                   const QRectF& place, double height = 22);
+                   Sign sign = Sign::Neon, double height = 23);
+    /// A heading, drawn by two labels of the same text, the second one its
+    /// shadow.
+    void AddHeading(const QString& name, const QString& shadowName, const QString& text,
+                    const QRectF& place, double height);
     /// "Назад" in its usual corner: bottom right.
     GameButton* AddBack(const QString& name, const QString& caption = "Назад");
 

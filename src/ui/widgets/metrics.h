@@ -33,13 +33,15 @@ struct Type {
     double height;
     bool bold = false;
     bool terminal = false; ///< every character is as wide as another
+    bool condensed = false;
     QFont Font() const;
 };
 /// The condensed face of a text's font.
 QFont Condensed(const QFont& font);
 /// The game's type and the message line's.
 Type TextType(double height, bool bold = false);
-Type TerminalType(double height, bool bold = false);
+Type CondensedType(double height, bool bold = false);
+Type TerminalType(double height);
 /// A type's height in whole toolkit pixels.
 int FontPx(double height);
 

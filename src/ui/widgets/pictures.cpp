@@ -5,8 +5,6 @@
 #include <QImageReader>
 #include <QResource>
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "resources/modJpegInside.h"
@@ -26,47 +24,49 @@ namespace torvenhall
 namespace
 {
 
-QPixmap Decode(const QByteArray& jpeg, QSize wanted, double pixelRatio)
+/// For the larger scales each picture is carried a second time, twice as large.
+constexpr const char* Usual = ":/JPEGINSIDEDATA/";
+constexpr const char* Large = ":/large/";
+
+QByteArray Carried(const char* where, std::string_view name)
 {
-    QBuffer buffer;
-    buffer.setData(jpeg);
-    QImageReader reader(&buffer, "jpeg");
+    static const bool registered = (RegisterPictures(), true);
+    Q_UNUSED(registered);
+    const QResource resource(where + Text(name));
+    if (!resource.isValid()) {
+        return {};
+    }
+    return QByteArray::fromRawData(reinterpret_cast<const char*>(resource.data()), resource.size());
+}
+
+QPixmap Decode(std::string_view name, QSize wanted, double pixelRatio)
+{
     const QSize pixels = wanted * pixelRatio;
+    QBuffer buffer;
+    buffer.setData(Carried(Usual, name));
+    QImageReader reader(&buffer, "jpeg");
+    const bool small =
+        reader.size().width() < pixels.width() || reader.size().height() < pixels.height();
+    if (const QByteArray large = Carried(Large, name); small && !large.isEmpty()) {
+        buffer.setData(large);
+        reader.setDevice(&buffer);
+        reader.setFormat("jpeg");
+    }
     const QSize scaled = reader.size().scaled(pixels, Qt::KeepAspectRatioByExpanding);
     reader.setScaledSize(scaled);
-    const QPoint corner((scaled.width() - pixels.width()) / 2,
-                        (scaled.height() - pixels.height()) / 2);
+    // In a lower window what stands at the top is kept.
+    const QPoint corner((scaled.width() - pixels.width()) / 2, 0);
     reader.setScaledClipRect(QRect(corner, pixels));
     QPixmap picture = QPixmap::fromImage(reader.read());
     picture.setDevicePixelRatio(pixelRatio);
     return picture;
 }
 
-/// The pixel no brighter than a relative luminance, in its own hue.
-QRgb Dimmed(QRgb pixel, double brightest)
-{
-    const auto linear = [](int channel) { return std::pow(channel / 255.0, 2.2); };
-    const double luminance = 0.2126 * linear(qRed(pixel)) + 0.7152 * linear(qGreen(pixel)) +
-                             0.0722 * linear(qBlue(pixel));
-    if (luminance <= brightest) {
-        return pixel;
-    }
-    const double share = std::pow(brightest / luminance, 1 / 2.2);
-    const auto dim = [share](int channel) { return static_cast<int>(channel * share); };
-    return qRgb(dim(qRed(pixel)), dim(qGreen(pixel)), dim(qBlue(pixel)));
-}
-
 } // namespace
 
 QByteArray EmbeddedPicture(std::string_view name)
 {
-    static const bool registered = (RegisterPictures(), true);
-    Q_UNUSED(registered);
-    const QResource resource(":/JPEGINSIDEDATA/" + Text(name));
-    if (!resource.isValid()) {
-        return {};
-    }
-    return QByteArray::fromRawData(reinterpret_cast<const char*>(resource.data()), resource.size());
+    return Carried(Usual, name);
 }
 
 bool TakePictureStep(std::string_view key)
@@ -85,29 +85,10 @@ QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio)
     const QString place =
         QString("%1 %2x%3@%4").arg(Text(name)).arg(size.width()).arg(size.height()).arg(pixelRatio);
     QPixmap& picture = decoded[place];
-    if (const QByteArray jpeg = EmbeddedPicture(name); picture.isNull() && !jpeg.isEmpty()) {
-        picture = Decode(jpeg, size, pixelRatio);
+    if (picture.isNull() && !EmbeddedPicture(name).isEmpty()) {
+        picture = Decode(name, size, pixelRatio);
     }
     return picture;
-}
-
-QPixmap Frosted(const QPixmap& picture, double brightest)
-{
-    // Shrinking and growing again is a blur that costs nothing at start-up.
-    const QImage image = picture.toImage();
-    const int blur = std::max(2, static_cast<int>(std::lround(7 * picture.devicePixelRatio())));
-    const QSize few(std::max(1, image.width() / blur), std::max(1, image.height() / blur));
-    QImage small = image.scaled(few, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                       .convertToFormat(QImage::Format_RGB32);
-    for (int y = 0; y < small.height(); ++y) {
-        for (int x = 0; x < small.width(); ++x) {
-            small.setPixel(x, y, Dimmed(small.pixel(x, y), brightest));
-        }
-    }
-    QPixmap frosted = QPixmap::fromImage(
-        small.scaled(image.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    frosted.setDevicePixelRatio(picture.devicePixelRatio());
-    return frosted;
 }
 
 } // namespace torvenhall

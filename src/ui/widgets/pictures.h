@@ -21,8 +21,4 @@ bool TakePictureStep(std::string_view key);
 /// scaled once. Null when there is none.
 QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio);
 
-/// The same picture as seen through frosted glass, its lights dimmed to a
-/// relative luminance of 0..1 so that a text over it stays readable.
-QPixmap Frosted(const QPixmap& picture, double brightest);
-
 } // namespace torvenhall

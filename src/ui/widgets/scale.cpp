@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QShortcut>
+#include <QToolTip>
 #include <QWidget>
 
 #include <algorithm>
@@ -113,7 +114,8 @@ void ChooseScale(std::optional<double> given)
 void ApplyScale(double scale)
 {
     SetPlayerScale(scale);
-    QApplication::setFont(TextType(12).Font());
+    QApplication::setFont(TextType(13).Font());
+    QToolTip::setFont(TextType(12.5).Font());
     for (QWidget* window : QApplication::topLevelWidgets()) {
         FollowScale(*window);
         KeepOnScreen(*window);

@@ -1,8 +1,8 @@
 #include "ui/widgets/scene.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
+#include "ui/widgets/face.h"
 #include "ui/widgets/pictures.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/theme.h"
@@ -13,41 +13,21 @@ namespace torvenhall
 namespace
 {
 
-// Under the panels' tint these leave every text a contrast of 4.5 at least:
-// the dimmest text on glass, pure red on the deep panels.
-constexpr double BrightestGlass = 0.13;
-constexpr double BrightestDeep = 0.03;
-
-void PaintShade(QPainter& painter, const QRectF& place)
+/// Twice in quick succession, then for a long while not.
+bool IsOut(int step)
 {
-    QLinearGradient shade(place.topLeft(), place.bottomLeft());
-    shade.setColorAt(0, QColor(3, 6, 12, 205));
-    shade.setColorAt(0.7, QColor(3, 6, 12, 185));
-    shade.setColorAt(1, QColor(3, 6, 12, 0));
-    painter.fillRect(place, shade);
+    constexpr int every = 34;
+    return step % every == 20 || step % every == 22;
 }
 
-void PaintGlass(QPainter& painter, const QRectF& place, const QPixmap& frosted, const QColor& tint)
+void PaintDark(QPainter& painter, const QRectF& place)
 {
-    const double line = std::max(1.0, UnitScale());
-    const double radius = Px(5);
-    const QRectF plate = place.adjusted(line / 2, line / 2, -line / 2, -line / 2);
-    QPainterPath shape;
-    shape.addRoundedRect(plate, radius, radius);
-    painter.save();
-    painter.setClipPath(shape);
-    if (!frosted.isNull()) {
-        painter.drawPixmap(0, 0, frosted);
-    }
-    painter.fillRect(place, tint);
-    QLinearGradient sheen(place.topLeft(), place.bottomLeft());
-    sheen.setColorAt(0, QColor(255, 255, 255, 8));
-    sheen.setColorAt(0.5, QColor(255, 255, 255, 0));
-    painter.fillRect(place, sheen);
-    painter.restore();
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(colour::Border, line));
-    painter.drawRoundedRect(plate, radius, radius);
+    QRadialGradient dark(0.5, 0.5, 0.5);
+    dark.setCoordinateMode(QGradient::ObjectBoundingMode);
+    dark.setColorAt(0, QColor(8, 10, 18, 150));
+    dark.setColorAt(0.6, QColor(8, 10, 18, 110));
+    dark.setColorAt(1, QColor(8, 10, 18, 0));
+    painter.fillRect(place, dark);
 }
 
 } // namespace
@@ -67,15 +47,36 @@ void Scene::ShowPicture(std::string_view name)
 {
     if (picture != name) {
         picture = name;
-        composed = {};
-        update();
+        DrawAnew();
     }
 }
 
 void Scene::AddPanel(const QRectF& place, Panel kind)
 {
-    plates.push_back({place, kind});
+    plates.push_back({place, kind, {}});
+    DrawAnew();
+}
+
+void Scene::AddSign(const QRectF& place, Sign sign)
+{
+    plates.push_back({place, Panel::Bare, sign});
+    DrawAnew();
+}
+
+void Scene::DrawAnew()
+{
     composed = {};
+    update();
+}
+
+void Scene::PaintBackground(QPainter& painter)
+{
+    const QPixmap shown = LoadPicture(picture, size(), devicePixelRatioF());
+    if (!shown.isNull()) {
+        painter.drawPixmap(rect(), shown);
+        return;
+    }
+    PaintWall(painter, rect());
 }
 
 void Scene::Compose()
@@ -86,31 +87,31 @@ void Scene::Compose()
     QPainter painter(&composed);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), colour::Night);
-    const QPixmap shown = LoadPicture(picture, size(), ratio);
-    if (!shown.isNull()) {
-        painter.drawPixmap(rect(), shown);
-    }
-    for (const Panel kind : {Panel::Shade, Panel::Glass, Panel::Deep}) {
-        PaintPlates(painter, kind, shown);
+    PaintBackground(painter);
+    for (const Plate& plate : plates) {
+        const QRect place = PxRect(plate.place);
+        if (plate.sign) {
+            PaintSignPlate(painter, *plate.sign, place);
+        } else {
+            PaintPanel(painter, place,
+                       plate.kind == Panel::Deep ? colour::PanelDeep : colour::Panel,
+                       plate.kind != Panel::Bare);
+        }
     }
 }
 
-void Scene::PaintPlates(QPainter& painter, Panel kind, const QPixmap& behind) const
+void Scene::AddFlicker(const QRectF& place)
 {
-    QPixmap frosted;
-    for (const Plate& plate : plates) {
-        if (plate.kind != kind) {
-            continue;
+    flickers.push_back(place);
+}
+
+void Scene::Step()
+{
+    const bool before = IsOut(step++);
+    if (before != IsOut(step)) {
+        for (const QRectF& place : flickers) {
+            update(PxRect(place));
         }
-        if (kind == Panel::Shade) {
-            PaintShade(painter, PxRect(plate.place));
-            continue;
-        }
-        if (frosted.isNull() && !behind.isNull()) {
-            frosted = Frosted(behind, kind == Panel::Deep ? BrightestDeep : BrightestGlass);
-        }
-        PaintGlass(painter, PxRect(plate.place), frosted,
-                   kind == Panel::Deep ? colour::PanelDeep : colour::Panel);
     }
 }
 
@@ -120,7 +121,13 @@ void Scene::paintEvent(QPaintEvent*)
     if (composed.devicePixelRatio() != ratio || composed.size() != size() * ratio) {
         Compose();
     }
-    QPainter(this).drawPixmap(0, 0, composed);
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, composed);
+    if (IsOut(step)) {
+        for (const QRectF& place : flickers) {
+            PaintDark(painter, PxRect(place));
+        }
+    }
 }
 
 } // namespace torvenhall

@@ -4,21 +4,24 @@
 #include <QRectF>
 #include <QWidget>
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "ui/widgets/sign.h"
+
 namespace torvenhall
 {
 
-/// The surface of a window: its picture, and over it panels of dark frosted
-/// glass on which texts are easy to read.
+/// The surface of a window: its picture, and over it dark panels on which texts
+/// are easy to read.
 class Scene : public QWidget
 {
 public:
-    /// Glass for most texts; Deep, nearly black, for red ones too; Shade, a
-    /// darkness without a border that ends softly, behind a slogan.
-    enum class Panel : unsigned char { Glass, Deep, Shade };
+    /// Plain for most texts; Deep, nearly black, for red ones too; Bare, without
+    /// a border, for what is drawn on a panel.
+    enum class Panel : unsigned char { Plain, Deep, Bare };
 
     /// Size in units.
     Scene(double width, double height, QWidget* parent);
@@ -28,22 +31,34 @@ public:
     /// Shows a picture by its embedded name.
     void ShowPicture(std::string_view name);
     /// Adds a panel; place in units.
-    void AddPanel(const QRectF& place, Panel kind = Panel::Glass);
+    void AddPanel(const QRectF& place, Panel kind = Panel::Plain);
+    /// A lamp or tube of the picture that stutters now and then; place in units.
+    void AddFlicker(const QRectF& place);
+    /// The next step of the quiet life.
+    virtual void Step();
+    /// Adds what a slogan stands on.
+    void AddSign(const QRectF& place, Sign sign);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    /// Draws what lies behind the panels, by default the picture.
+    virtual void PaintBackground(QPainter& painter);
+    /// What lies behind the panels has changed.
+    void DrawAnew();
 
 private:
     struct Plate {
         QRectF place;
         Panel kind;
+        std::optional<Sign> sign;
     };
     void Compose();
-    void PaintPlates(QPainter& painter, Panel kind, const QPixmap& behind) const;
 
     std::string picture; ///< its embedded name
     QPixmap composed;    ///< picture and panels, ready to be copied to the screen
     std::vector<Plate> plates;
+    std::vector<QRectF> flickers;
+    int step = 0;
 };
 
 } // namespace torvenhall

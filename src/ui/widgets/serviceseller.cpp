@@ -6,10 +6,11 @@
 namespace torvenhall
 {
 
-ServiceSeller::ServiceSeller(const char* name, const ServiceWindow& newTable, QWidget* parent)
+ServiceSeller::ServiceSeller(const char* name, const ServiceWindow& newTable, Sign sign,
+                             QWidget* parent)
     : ActivityWindow({name, Text(newTable.caption), newTable.pictureKey}, parent), table(newTable)
 {
-    AddSlogan("Label3", "Label4", Text(table.slogan), {20, 14, 520, 34});
+    AddSlogan("Label3", "Label4", Text(table.slogan), sign);
     std::vector<std::pair<QString, QString>> captions;
     for (std::size_t i = 0; i < table.services.size(); ++i) {
         captions.emplace_back(QString("Command%1").arg(i + 1), Text(table.services[i].caption));

@@ -10,7 +10,7 @@ namespace torvenhall
 class ServiceSeller : public ActivityWindow
 {
 public:
-    ServiceSeller(const char* name, const ServiceWindow& newTable, QWidget* parent);
+    ServiceSeller(const char* name, const ServiceWindow& newTable, Sign sign, QWidget* parent);
 
 protected:
     void RefreshChoices() override;

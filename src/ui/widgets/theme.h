@@ -1,27 +1,11 @@
 #pragma once
 
-#include <QColor>
+#include "ui/widgets/colours.h"
 
 class QApplication;
 
 namespace torvenhall
 {
-
-/// The game's colours: night, a warm lamp, a cyan screen. Pure red means
-/// danger and nothing else.
-namespace colour
-{
-inline constexpr QColor LightCyan{192, 255, 255};
-inline constexpr QColor Danger{255, 0, 0};
-inline constexpr QColor Text{226, 240, 244};
-inline constexpr QColor Caption{143, 176, 188};
-inline constexpr QColor Faint{124, 144, 155};
-inline constexpr QColor Warm{255, 206, 132};
-inline constexpr QColor Panel{6, 11, 19, 134};
-inline constexpr QColor PanelDeep{4, 8, 14, 206};
-inline constexpr QColor Border{140, 214, 226, 62};
-inline constexpr QColor Night{11, 17, 26};
-} // namespace colour
 
 /// Style, palette and font of everything the toolkit draws itself: menus,
 /// message boxes, lists. The same on every desktop.

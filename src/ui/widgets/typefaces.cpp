@@ -41,8 +41,8 @@ QFont Type::Font() const
     Q_UNUSED(loaded);
     QFont font(terminal ? TerminalFamily : TextFamily);
     font.setPixelSize(FontPx(height));
-    font.setBold(bold && !terminal); // the only weight that the terminal's face has
-    return font;
+    font.setBold(bold);
+    return condensed ? Condensed(font) : font;
 }
 
 QFont Condensed(const QFont& font)
@@ -59,9 +59,14 @@ Type TextType(double height, bool bold)
     return {height, bold};
 }
 
-Type TerminalType(double height, bool bold)
+Type CondensedType(double height, bool bold)
 {
-    return {height, bold, true};
+    return {height, bold, false, true};
+}
+
+Type TerminalType(double height)
+{
+    return {height, false, true};
 }
 
 } // namespace torvenhall

@@ -8,6 +8,7 @@
 
 #include "app/application.h"
 #include "ui/widgets/metrics.h"
+#include "ui/widgets/quietlife.h"
 #include "ui/widgets/theme.h"
 
 int main(int argc, char** argv)
@@ -25,6 +26,7 @@ int main(int argc, char** argv)
     }
     torvenhall::ApplyTheme(application);
     QApplication::setCursorFlashTime(0); // pictures are compared
+    torvenhall::SetStillLife(true);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,54 @@
+#include "ui/roomscene.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "ui/room.h"
+#include "ui/widgets/metrics.h"
+
+namespace torvenhall
+{
+
+void RoomScene::Refresh()
+{
+    if (const RoomLook present = PresentRoom(); look != present) {
+        look = present;
+        DrawAnew();
+    }
+}
+
+void RoomScene::Step()
+{
+    const int before = step++;
+    for (const RoomMotion& motion : RoomMotions()) {
+        if (motion.moves(look, before, step)) {
+            update(PxRect(motion.place));
+        }
+    }
+}
+
+void RoomScene::PaintBackground(QPainter& painter)
+{
+    PaintRoom(painter, look, devicePixelRatioF());
+}
+
+void RoomScene::paintEvent(QPaintEvent* event)
+{
+    Scene::paintEvent(event);
+    if (step == 0) {
+        return;
+    }
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const RoomMotion& motion : RoomMotions()) {
+        if (event->region().intersects(PxRect(motion.place))) {
+            painter.save();
+            painter.setClipRect(PxRect(motion.place));
+            painter.scale(UnitScale(), UnitScale());
+            motion.paint(painter, look, step);
+            painter.restore();
+        }
+    }
+}
+
+} // namespace torvenhall
