@@ -32,7 +32,7 @@ struct Hour {
 constexpr Hour Hours[]{
     {0xFF26365E, 0xFF0C1630, 1.0},  // night
     {0xFF646080, 0xFF5A3844, 0.7},  // dawn
-    {0xFFD0CAC6, 0xFF30343A, 0.0},  // day
+    {0xFFDCD6D0, 0xFF282C30, 0.0},  // day
     {0xFF504668, 0xFF6A3A20, 0.85}, // dusk
     {0xFF2E3E68, 0xFF121C38, 1.0},  // evening
 };
@@ -217,7 +217,8 @@ void PaintLight(QPainter& painter, const RoomLook& look)
 void PaintGlow(QPainter& painter, const RoomLook& look)
 {
     const double lamp = HourOf(look).lamp;
-    if (lamp <= 0) {
+    if (lamp <= 0) { // the daylight in the air
+        Shine(painter, {{110, 96}, 360, 150, 0xFF1E2226}, 1);
         return;
     }
     if (look.daylight == Daylight::Night || look.daylight == Daylight::Evening) {

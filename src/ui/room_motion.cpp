@@ -56,6 +56,9 @@ bool SnowMoves(const RoomLook& look, int before, int step)
 /// The view is kept: only the flakes are drawn anew.
 void PaintSnow(QPainter& painter, const RoomLook& look, int step)
 {
+    if (look.season != Season::Winter) {
+        return;
+    }
     static QPixmap view;
     static RoomLook viewLook;
     static double viewScale = 0;
@@ -137,15 +140,18 @@ bool ScreenMoves(const RoomLook& look, int before, int step)
     return look.Running() && before != step;
 }
 
-bool SignalsMove(const RoomLook& look, int before, int step)
+bool TrafficMoves(const RoomLook& look, int before, int step)
 {
     return look.online && look.Part(Slot::Modem) > 0 && before != step;
 }
 
 constexpr RoomMotion Motions[]{
-    {{300, 96, 24, 16}, PaintBlink, BlinkMoves},    {{14, 68, 94, 85}, PaintSnow, SnowMoves},
-    {{106, 124, 19, 8}, PaintCat, CatMoves},        {{378, 143, 16, 18}, PaintSteam, SteamMoves},
-    {{200, 108, 62, 64}, PaintScreen, ScreenMoves}, {{400, 150, 42, 28}, PaintSignals, SignalsMove},
+    {{300, 96, 24, 16}, PaintBlink, BlinkMoves},
+    {{14, 68, 94, 85}, PaintSnow, SnowMoves},
+    {{106, 124, 19, 8}, PaintCat, CatMoves},
+    {{378, 143, 16, 18}, PaintSteam, SteamMoves},
+    {{200, 108, 62, 64}, PaintScreen, ScreenMoves},
+    {{400, 150, 42, 28}, PaintTraffic, TrafficMoves},
 };
 
 } // namespace

@@ -42,8 +42,10 @@ void PaintPlant(QPainter& painter, const RoomLook& look);
 
 /// The lit screen, if there is one.
 void PaintScreen(QPainter& painter, const RoomLook& look, int step);
-/// The modem's lights and the disk's.
-void PaintSignals(QPainter& painter, const RoomLook& look, int step);
+/// The lights of the machine, the disks and the modem.
+void PaintSignals(QPainter& painter, const RoomLook& look);
+/// Those of the modem that flicker while a line is up.
+void PaintTraffic(QPainter& painter, const RoomLook& look, int step);
 
 /// A thing's own colour in that light.
 inline QColor Lit(QColor colour, QColor light)
