@@ -26,10 +26,10 @@ void PaintRoom(QPainter& painter, const RoomLook& look, double pixelRatio)
     PaintWall(painter, look);
     PaintThings(painter, look, pixelRatio);
     PaintLight(painter, look);
+    PaintGlow(painter, look);
     PaintWindow(painter, look, 0);
     PaintScreen(painter, look, 0);
-    PaintSignals(painter, look, 0);
-    PaintGlow(painter, look);
+    PaintSignals(painter, look);
     painter.restore();
 }
 

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include "ui/roomparts.h"
 
@@ -117,19 +118,29 @@ QColor Dimmed(QColor colour, const RoomLook& look)
             static_cast<int>(std::min(255.0, colour.blue() * left * (left < 0.5 ? 1.7 : 1)))};
 }
 
+/// A crown of three tones: a mass in the shade, then leaves, then those in the light.
 void PaintLeaves(QPainter& painter, const RoomLook& look)
 {
-    const bool yellow = look.season == Season::Autumn;
+    constexpr struct {
+        int count;
+        double size, lift;
+        QRgb green, yellow;
+    } Tones[]{{30, 4.2, 0, 0xFF2F5A38, 0xFF8A4A22},
+              {70, 1.7, 1.2, 0xFF4E8440, 0xFFC87A2A},
+              {56, 1.1, 3.4, 0xFF9CC452, 0xFFF2BC48}};
     painter.setPen(Qt::NoPen);
-    for (int i = 0; i < 70; ++i) {
-        const double share = Scatter(i * 7 + 3);
-        const QColor light = yellow ? QColor(0xF0, 0xB4, 0x3C) : QColor(0x9C, 0xBE, 0x4E);
-        const QColor shade = yellow ? QColor(0xB0, 0x5A, 0x24) : QColor(0x3E, 0x6E, 0x36);
-        const double up = i / 70.0;
-        painter.setBrush(Dimmed(share < 0.35 + 0.5 * up ? light : shade, look));
-        const QPointF place(86 + 26 * (Scatter(i * 7) - 0.5) * (1.25 - 0.5 * up),
-                            150 - 26 * up + 5 * (Scatter(i * 7 + 1) - 0.5));
-        painter.drawEllipse(place, 2.2 + share, 1.7 + share * 0.8);
+    int seed = 300;
+    for (const auto& tone : Tones) {
+        painter.setBrush(
+            Dimmed(QColor(look.season == Season::Autumn ? tone.yellow : tone.green), look));
+        for (int i = 0; i < tone.count; ++i, seed += 3) {
+            const double up = Scatter(seed);
+            const double half = 15 * std::sqrt(std::max(0.1, 1 - std::pow(2 * up - 0.85, 2)));
+            const QPointF place(86 - tone.lift * 0.5 + half * (2 * Scatter(seed + 1) - 1),
+                                148 - 25 * up - tone.lift);
+            const double size = tone.size * (0.7 + 0.5 * Scatter(seed + 2));
+            painter.drawEllipse(place, size, size * 0.8);
+        }
     }
 }
 
@@ -148,6 +159,10 @@ void PaintYard(QPainter& painter, const RoomLook& look)
     const HouseColours& colours = Colours[static_cast<int>(look.daylight)];
     painter.setPen(QPen(Dimmed(QColor(0x4A, 0x36, 0x2C), look), 2, Qt::SolidLine, Qt::RoundCap));
     Branch(painter, {86, 156}, 12, 90, 1.8, 4);
+    if (look.season == Season::Winter) { // snow lies on the upper side
+        painter.setPen(QPen(QColor(colours.snow), 2, Qt::SolidLine, Qt::RoundCap));
+        Branch(painter, {85.7, 155.4}, 12, 90, 0.7, 3);
+    }
     painter.setPen(Qt::NoPen);
     if (!look.bareTree) {
         PaintLeaves(painter, look);
@@ -182,6 +197,36 @@ void PaintYard(QPainter& painter, const RoomLook& look)
         painter.setBrush(Dimmed(QColor(0x9A, 0x9A, 0x9E), look));
         painter.drawEllipse(QPointF(37.4, 126), 1.7, 1.7);
     }
+}
+
+void PaintPlant(QPainter& painter, const RoomLook& look)
+{
+    const QColor light = LightAt(look, {47, 135});
+    constexpr QRgb Leaves[]{0xFF2C5238, 0xFF3F7244, 0xFF62964E};
+    constexpr QRgb Petals[]{0xFFA82F38, 0xFFE0504A, 0xFFFF8A76};
+    painter.save();
+    painter.setPen(QPen(Lit(QColor(0x3A, 0x5E, 0x34), light), 0.7));
+    for (const QPointF tip : {QPointF(40, 124), QPointF(50, 120), QPointF(56.5, 127)}) {
+        painter.drawLine(QPointF(47, 142), tip);
+    }
+    painter.setPen(Qt::NoPen);
+    for (int i = 0; i < 36; ++i) {
+        painter.setBrush(Lit(QColor(Leaves[i / 12]), light));
+        const double turn = 6.283 * Scatter(i * 4 + 900);
+        const double far = 0.2 + 0.8 * Scatter(i * 4 + 901);
+        const QPointF leaf(47 + 10.5 * far * std::cos(turn) - i * 0.05,
+                           139 + 6 * far * std::sin(turn) - i * 0.14);
+        painter.drawEllipse(leaf, 2.7 - i * 0.03, 2.1 - i * 0.02);
+    }
+    for (const QPointF head : {QPointF(40, 123), QPointF(50, 119.5), QPointF(56.5, 126)}) {
+        for (int i = 0; i < 15; ++i) {
+            painter.setBrush(Lit(QColor(Petals[i / 5]), light));
+            const QPointF petal(head.x() + 5 * (Scatter(i * 2 + 700) - 0.5) - i * 0.03,
+                                head.y() + 4 * (Scatter(i * 2 + 701) - 0.5) - i * 0.06);
+            painter.drawEllipse(petal, 1, 0.9);
+        }
+    }
+    painter.restore();
 }
 
 } // namespace torvenhall

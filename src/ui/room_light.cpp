@@ -30,20 +30,20 @@ struct Hour {
 };
 
 constexpr Hour Hours[]{
-    {0xFF323C66, 0xFF0C1428, 1.0}, // night
-    {0xFF6E6982, 0xFF5A3C46, 0.7}, // dawn
-    {0xFFC0BCBE, 0xFF4C5056, 0.0}, // day
-    {0xFF735866, 0xFF643A24, 0.8}, // dusk
-    {0xFF3E4270, 0xFF101830, 1.0}, // evening
+    {0xFF26365E, 0xFF0C1630, 1.0},  // night
+    {0xFF646080, 0xFF5A3844, 0.7},  // dawn
+    {0xFFDCD6D0, 0xFF282C30, 0.0},  // day
+    {0xFF504668, 0xFF6A3A20, 0.85}, // dusk
+    {0xFF2E3E68, 0xFF121C38, 1.0},  // evening
 };
 
 constexpr Light Window{{70, 120}, 300, 150, 0};
 constexpr Light Lamp[]{
-    {{284, 168}, 150, 116, 0xFF82684C},
-    {{276, 130}, 290, 160, 0xFF684829},
-    {{282, 174}, 84, 44, 0xFF403420},
+    {{284, 162}, 160, 124, 0xFF7A521E},
+    {{290, 130}, 310, 170, 0xFF603F16},
+    {{284, 170}, 92, 52, 0xFF34220A},
 };
-constexpr Light Screen{{286, 136}, 66, 60, 0xFF1C3E48};
+constexpr Light Screen{{290, 134}, 56, 52, 0xFF0A2436};
 
 constexpr struct {
     double at, share;
@@ -112,6 +112,67 @@ void Shine(QPainter& painter, const Light& light, double strength)
     painter.restore();
 }
 
+/// The sun comes in past the curtain; under a winter sky only its paleness.
+void AddSun(QPainter& painter, const RoomLook& look)
+{
+    const bool pale = look.season == Season::Winter;
+    const QColor sun = pale ? QColor(0x14, 0x1A, 0x20) : QColor(0x58, 0x4C, 0x30);
+    QLinearGradient fall(QPointF(120, 76), QPointF(390, 190));
+    fall.setColorAt(0, sun);
+    fall.setColorAt(1, Qt::black);
+    QPainterPath beams;
+    beams.addPolygon(QPolygonF{{146, 66}, {192, 66}, {334, 190}, {214, 190}});
+    beams.addPolygon(QPolygonF{{202, 66}, {236, 66}, {412, 190}, {356, 190}});
+    painter.fillPath(beams, fall);
+}
+
+/// A cat's eyes keep what light there is.
+void PaintCatEyes(QPainter& painter)
+{
+    painter.setPen(Qt::NoPen);
+    for (const QPointF eye : {QPointF(110.5, 128.2), QPointF(120.7, 127.1)}) {
+        painter.setBrush(QColor(216, 240, 120, 50));
+        painter.drawEllipse(eye, 3.4, 2.6);
+        painter.setBrush(QColor(222, 240, 130));
+        painter.drawEllipse(eye, 2.1, 1.05);
+        painter.setBrush(QColor(20, 18, 10));
+        painter.drawEllipse(eye, 0.55, 1);
+    }
+}
+
+/// The edges of the hero that look at the lamp, and at the screen.
+void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
+{
+    QPainterPath warm(QPointF(306.5, 87.5)); // the hair over the brow
+    warm.cubicTo(303.4, 91, 302.4, 95, 302.6, 99.5);
+    warm.cubicTo(303.6, 95.5, 304.6, 91.5, 306.5, 87.5);
+    warm.moveTo(303.8, 110); // the nose
+    warm.cubicTo(301.6, 112.6, 301.2, 115, 302.6, 116.8);
+    warm.cubicTo(302.4, 114.6, 302.8, 112, 303.8, 110);
+    warm.moveTo(295, 139.8); // the far sleeve
+    warm.cubicTo(287.6, 146, 284.2, 155, 283, 165);
+    warm.cubicTo(286, 155.6, 289.8, 147.4, 295, 139.8);
+    warm.moveTo(300.2, 166.6); // the near one, and both hands
+    warm.cubicTo(311, 163.2, 326, 163.8, 338, 166.4);
+    warm.cubicTo(326, 165.6, 312, 165.4, 300.2, 166.6);
+    warm.moveTo(263.5, 162.4);
+    warm.cubicTo(269, 158.8, 276, 160.8, 281, 164);
+    warm.cubicTo(276, 162.4, 270, 161.2, 263.5, 162.4);
+    warm.moveTo(280, 165);
+    warm.cubicTo(286, 161.4, 293, 163, 299, 166.6);
+    warm.cubicTo(293, 164.8, 287, 163.6, 280, 165);
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Screen);
+    painter.fillPath(warm, QColor(255, 190, 108, static_cast<int>(150 * lamp)));
+    if (look.Running()) {
+        QPainterPath cool(QPointF(304, 117.5)); // mouth and jaw
+        cool.cubicTo(304.4, 122, 306.4, 126.6, 311.4, 129.4);
+        cool.cubicTo(308.2, 126, 306.4, 122.4, 304, 117.5);
+        painter.fillPath(cool, QColor(110, 214, 240, 95));
+    }
+    painter.restore();
+}
+
 } // namespace
 
 QColor LightAt(const RoomLook& look, QPointF place)
@@ -137,11 +198,15 @@ void PaintLight(QPainter& painter, const RoomLook& look)
     QImage map((Band.size() * MapScale).toSize(), QImage::Format_RGB32);
     map.fill(HourOf(look).everywhere);
     QPainter lights(&map);
+    lights.setRenderHint(QPainter::Antialiasing);
     lights.scale(MapScale, MapScale);
     lights.translate(-Band.topLeft());
     lights.setCompositionMode(QPainter::CompositionMode_Plus);
     EachLight(look,
               [&](const Light& light, double strength) { AddLight(lights, light, strength); });
+    if (look.daylight == Daylight::Day) {
+        AddSun(lights, look);
+    }
     lights.end();
     painter.save();
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
@@ -152,8 +217,12 @@ void PaintLight(QPainter& painter, const RoomLook& look)
 void PaintGlow(QPainter& painter, const RoomLook& look)
 {
     const double lamp = HourOf(look).lamp;
-    if (lamp <= 0) {
+    if (lamp <= 0) { // the daylight in the air
+        Shine(painter, {{110, 96}, 360, 150, 0xFF1E2226}, 1);
         return;
+    }
+    if (look.daylight == Daylight::Night || look.daylight == Daylight::Evening) {
+        PaintCatEyes(painter);
     }
     painter.save();
     QLinearGradient air(QPointF(262, 100), QPointF(284, 178));
@@ -161,17 +230,18 @@ void PaintGlow(QPainter& painter, const RoomLook& look)
     air.setColorAt(0.5, QColor(255, 190, 110, static_cast<int>(34 * lamp)));
     air.setColorAt(1, QColor(255, 180, 90, 0));
     QPainterPath cone;
-    cone.moveTo(248, 107);
+    cone.moveTo(254, 106);
     cone.lineTo(275.5, 97);
-    cone.lineTo(352, 180);
-    cone.lineTo(218, 180);
+    cone.lineTo(346, 180);
+    cone.lineTo(272, 180);
     painter.setCompositionMode(QPainter::CompositionMode_Screen);
     painter.fillPath(cone, air);
     painter.restore();
+    PaintRims(painter, look, lamp);
     Shine(painter, {{263, 102}, 62, 50, 0xFF5A3C1A}, lamp);
     Shine(painter, {{263, 102}, 15, 13, 0xFF806030}, lamp);
     if (look.Running()) {
-        Shine(painter, {{252, 138}, 62, 56, 0xFF0C2A30}, 1);
+        Shine(painter, {{258, 138}, 50, 48, 0xFF04161E}, 1);
     }
 }
 

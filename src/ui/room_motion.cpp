@@ -1,3 +1,5 @@
+#include <QPixmap>
+
 #include <cmath>
 
 #include "ui/room.h"
@@ -14,12 +16,6 @@ bool EyesClosed(int step)
 {
     constexpr int Every = 19;
     return step % Every == Every - 1 || step % (Every * 3) == Every * 3 - 3;
-}
-
-QColor Lit(QColor colour, QColor light)
-{
-    return {colour.red() * light.red() / 255, colour.green() * light.green() / 255,
-            colour.blue() * light.blue() / 255};
 }
 
 void PaintBlink(QPainter& painter, const RoomLook& look, int step)
@@ -57,11 +53,85 @@ bool SnowMoves(const RoomLook& look, int before, int step)
     return look.season == Season::Winter && before != step;
 }
 
+/// The view is kept: only the flakes are drawn anew.
 void PaintSnow(QPainter& painter, const RoomLook& look, int step)
 {
+    if (look.season != Season::Winter) {
+        return;
+    }
+    static QPixmap view;
+    static RoomLook viewLook;
+    static double viewScale = 0;
+    const QRectF place = Panes().boundingRect();
+    const double scale = painter.deviceTransform().m11();
+    if (view.isNull() || viewLook != look || viewScale != scale) {
+        viewLook = look;
+        viewScale = scale;
+        view = QPixmap((place.size() * scale).toSize() + QSize(1, 1));
+        view.fill(Qt::transparent);
+        QPainter onto(&view);
+        onto.setRenderHint(QPainter::Antialiasing);
+        onto.scale(scale, scale);
+        onto.translate(-place.topLeft());
+        PaintView(onto, look);
+    }
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    PaintWindow(painter, look, step);
+    painter.drawPixmap(QRectF(place.topLeft(), QSizeF(view.size()) / scale), view, view.rect());
+    PaintFlakes(painter, look, step);
+    PaintPlant(painter, look);
+    painter.restore();
+}
+
+/// The cat's lids are in no hurry.
+bool CatDozes(int step)
+{
+    constexpr int Every = 47, Long = 5;
+    return step % Every >= Every - Long;
+}
+
+bool CatMoves(const RoomLook&, int before, int step)
+{
+    return CatDozes(before) != CatDozes(step);
+}
+
+void PaintCat(QPainter& painter, const RoomLook& look, int step)
+{
+    if (!CatDozes(step)) {
+        return;
+    }
+    const QColor light = LightAt(look, {116, 128});
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const QPointF eye : {QPointF(110.5, 128), QPointF(120.7, 126.9)}) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Lit(QColor(0xE0, 0x86, 0x32), light));
+        painter.drawEllipse(eye, 3.5, 2.7);
+        QPainterPath lid(eye + QPointF(-2.6, 0));
+        lid.quadTo(eye + QPointF(0, 1.9), eye + QPointF(2.6, -0.3));
+        painter.strokePath(lid, QPen(Lit(QColor(0x6E, 0x30, 0x12), light), 0.8));
+    }
+    painter.restore();
+}
+
+bool SteamMoves(const RoomLook&, int before, int step)
+{
+    return before != step;
+}
+
+void PaintSteam(QPainter& painter, const RoomLook& look, int step)
+{
+    QColor white = LightAt(look, {386, 150});
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (int i = 0; i < 3; ++i) {
+        const double x = 383.5 + i * 3.4;
+        const double sway = 1.6 * std::sin(step * 0.45 + i * 2);
+        QPainterPath wisp(QPointF(x, 160));
+        wisp.cubicTo(x - 2 - sway, 155, x + 2 + sway, 152, x + sway, 146 + i % 2 * 2.5);
+        white.setAlpha(46 + static_cast<int>(18 * std::sin(step * 0.3 + i * 1.7)));
+        painter.strokePath(wisp, QPen(white, 1.5, Qt::SolidLine, Qt::RoundCap));
+    }
     painter.restore();
 }
 
@@ -70,16 +140,18 @@ bool ScreenMoves(const RoomLook& look, int before, int step)
     return look.Running() && before != step;
 }
 
-bool SignalsMove(const RoomLook& look, int before, int step)
+bool TrafficMoves(const RoomLook& look, int before, int step)
 {
     return look.online && look.Part(Slot::Modem) > 0 && before != step;
 }
 
 constexpr RoomMotion Motions[]{
     {{300, 96, 24, 16}, PaintBlink, BlinkMoves},
-    {{14, 69, 93, 84}, PaintSnow, SnowMoves},
+    {{14, 68, 94, 85}, PaintSnow, SnowMoves},
+    {{106, 124, 19, 8}, PaintCat, CatMoves},
+    {{378, 143, 16, 18}, PaintSteam, SteamMoves},
     {{200, 108, 62, 64}, PaintScreen, ScreenMoves},
-    {{400, 150, 42, 28}, PaintSignals, SignalsMove},
+    {{400, 150, 42, 28}, PaintTraffic, TrafficMoves},
 };
 
 } // namespace

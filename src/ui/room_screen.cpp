@@ -46,7 +46,7 @@ void PaintCode(QPainter& painter, const Desktop& desktop, int step)
         }
     }
     // The line being typed, and its cursor.
-    const double typed = 3 + 1.6 * (step % 15);
+    const double typed = 3 + 1.6 * ((step + 9) % 15);
     const double y = 4.6 + (Rows - 0.1) * 2.65;
     painter.fillRect(QRectF(3, y, typed - 3, 1.25), QColor(desktop.third));
     if (step % 4 < 2) {
@@ -87,32 +87,27 @@ constexpr QColor Green(0x6C, 0xF4, 0x8C);
 constexpr QColor Red(0xFF, 0x5A, 0x46);
 constexpr QColor Cyan(0x8F, 0xE8, 0xF2);
 
-/// While a line is up the lights flicker, each in its own way.
-void PaintModemLights(QPainter& painter, const RoomLook& look, int step)
+/// One light tells that there is power, a second that the line is up.
+void PaintModemLight(QPainter& painter, const RoomLook& look, int number)
 {
-    const bool simple = look.Part(Slot::Modem) == 1;
-    const int lights = simple ? 4 : 5;
-    for (int i = 0; i < lights; ++i) {
-        const bool busy = look.online && Scatter(step * 11 + i * 5) < 0.6;
-        if (i == 0 || busy) {
-            const QPointF place =
-                simple ? QPointF(428 + i * 5, 173.7) : QPointF(428 + i * 4.2, 172.9);
-            Dot(painter, place, simple ? Red : Green, 0.65);
-        }
+    if (look.Part(Slot::Modem) == 1) {
+        Dot(painter, {428.0 + number * 5, 173.7}, Red, 0.65);
+    } else {
+        Dot(painter, {428 + number * 4.2, 172.9}, Green, 0.65);
     }
 }
 
 void PaintCaseLights(QPainter& painter, const RoomLook& look)
 {
-    constexpr QPointF Lights[]{{172.5, 169}, {158, 158}, {164, 136.5}};
+    constexpr QPointF Lights[]{{167.5, 169}, {158, 158}, {164, 141.1}};
     const int level = look.Part(Slot::Case);
     Dot(painter, Lights[level - 1], level < 3 ? Green : Cyan, level < 3 ? 0.75 : 1.4);
     if (level == 3) { // the light behind the grille
-        QRadialGradient light(QPointF(164, 155), 19);
+        QRadialGradient light(QPointF(164, 157), 18);
         light.setColorAt(0, QColor(70, 210, 235, 150));
         light.setColorAt(0.5, QColor(60, 190, 225, 60));
         light.setColorAt(1, QColor(60, 190, 225, 0));
-        painter.fillRect(QRectF(145, 136, 38, 38), light);
+        painter.fillRect(QRectF(146, 139, 36, 36), light);
     }
 }
 
@@ -160,17 +155,35 @@ void PaintScreen(QPainter& painter, const RoomLook& look, int step)
     painter.restore();
 }
 
-void PaintSignals(QPainter& painter, const RoomLook& look, int step)
+void PaintSignals(QPainter& painter, const RoomLook& look)
 {
     painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     if (look.Part(Slot::Case) > 0) {
         PaintCaseLights(painter, look);
         PaintDiskLights(painter, look);
     }
     if (look.Part(Slot::Modem) > 0) {
-        PaintModemLights(painter, look, step);
+        PaintModemLight(painter, look, 0);
+        if (look.online) {
+            PaintModemLight(painter, look, 1);
+        }
+    }
+    painter.restore();
+}
+
+void PaintTraffic(QPainter& painter, const RoomLook& look, int step)
+{
+    if (!look.online || look.Part(Slot::Modem) == 0) {
+        return;
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    for (int number = 2; number < 4; ++number) {
+        if (Scatter(step * 11 + number * 5) < 0.55) {
+            PaintModemLight(painter, look, number);
+        }
     }
     painter.restore();
 }

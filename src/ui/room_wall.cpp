@@ -12,7 +12,7 @@ namespace torvenhall
 namespace
 {
 
-constexpr QRectF Leaf(160, 81, 29, 33);
+constexpr QRectF Leaf(160, 79, 28, 28);
 constexpr QRectF Diplomas[]{
     {394, 76, 25, 18.5}, {422.5, 75.5, 25, 18.5}, {451, 76, 25, 18.5}, {479.5, 75.5, 25, 18.5}};
 
@@ -56,14 +56,14 @@ void PaintLeaf(QPainter& painter, const RoomLook& look)
         painter.fillRect(Leaf.translated(0.5 * i, 0.7 * i),
                          QColor(236 - 22 * i, 226 - 24 * i, 204 - 26 * i));
     }
-    painter.fillRect(QRectF(Leaf.topLeft(), QSizeF(Leaf.width(), 8)), QColor(0xB4, 0x3A, 0x30));
-    painter.fillRect(QRectF(Leaf.left(), Leaf.top() + 8, Leaf.width(), 0.6),
+    painter.fillRect(QRectF(Leaf.topLeft(), QSizeF(Leaf.width(), 7.5)), QColor(0xB4, 0x3A, 0x30));
+    painter.fillRect(QRectF(Leaf.left(), Leaf.top() + 7.5, Leaf.width(), 0.6),
                      QColor(0x7A, 0x22, 0x1E));
     painter.setBrush(QColor(0xC9, 0xB1, 0x84));
     painter.drawEllipse(QPointF(Leaf.center().x(), Leaf.top() - 1.6), 1, 1);
-    Print(painter, {Leaf.left(), Leaf.top(), Leaf.width(), 8}, TextType(7, true),
+    Print(painter, {Leaf.left(), Leaf.top(), Leaf.width(), 7.5}, TextType(7, true),
           QColor(0xFF, 0xF1, 0xD8), Text(Months[look.month - 1]));
-    Print(painter, {Leaf.left(), Leaf.top() + 8, Leaf.width(), 24.5}, TextType(23, true),
+    Print(painter, {Leaf.left(), Leaf.top() + 7.5, Leaf.width(), 20.5}, TextType(20, true),
           QColor(0x2A, 0x20, 0x26), QString::number(look.day));
 }
 

@@ -10,7 +10,12 @@ namespace torvenhall
 namespace
 {
 
-constexpr QRectF Glass(14, 46, 96, 106);
+/// What is above hides behind the panels.
+constexpr double Top = 68;
+constexpr QRectF Glass(14, Top, 96, 152 - Top);
+
+/// Glass without bars or pot, for what falls behind it.
+constexpr QRectF Open[]{{14, Top, 42, 76}, {62, Top, 39.4, 18.5}, {62, 91.1, 39.4, 61}};
 
 struct SkyColours {
     QRgb top, middle, low;
@@ -30,9 +35,10 @@ bool Dark(const RoomLook& look)
     return look.daylight == Daylight::Night || look.daylight == Daylight::Evening;
 }
 
-void PaintStars(QPainter& painter)
+void PaintStars(QPainter& painter, const RoomLook& look)
 {
-    for (int i = 0; i < 26; ++i) {
+    const int stars = look.season == Season::Winter ? 10 : 26; // snow clouds
+    for (int i = 0; i < stars; ++i) {
         const QPointF place(14 + 92 * Scatter(i * 3), 70 + 44 * Scatter(i * 3 + 1));
         const double size = 0.3 + 0.35 * Scatter(i * 3 + 2);
         painter.setBrush(QColor(226, 236, 255, 110 + static_cast<int>(130 * Scatter(i + 77))));
@@ -74,7 +80,7 @@ void PaintSky(QPainter& painter, const RoomLook& look)
     sky.setColorAt(1, QColor(colours.low));
     painter.fillRect(Glass, sky);
     if (Dark(look)) {
-        PaintStars(painter);
+        PaintStars(painter, look);
     } else {
         PaintClouds(painter, look);
     }
@@ -84,21 +90,6 @@ void PaintSky(QPainter& painter, const RoomLook& look)
         sun.setColorAt(0.3, QColor(255, 190, 110, 110));
         sun.setColorAt(1, QColor(255, 170, 90, 0));
         painter.fillRect(Glass, sun);
-    }
-}
-
-void PaintFlakes(QPainter& painter, const RoomLook& look, int step)
-{
-    if (look.season != Season::Winter) {
-        return;
-    }
-    painter.setBrush(Dark(look) ? QColor(214, 226, 250, 215) : QColor(255, 255, 255, 235));
-    for (int i = 0; i < 34; ++i) {
-        const double fall = 2 + 2.4 * Scatter(i * 5 + 2);
-        const double y = 66 + std::fmod(86 * Scatter(i * 5) + fall * step, 86);
-        const double x = 14 + 96 * Scatter(i * 5 + 1) + 2 * std::sin(step * 0.5 + i);
-        const double size = 0.5 + 0.6 * Scatter(i * 5 + 3);
-        painter.drawEllipse(QPointF(x, y), size, size);
     }
 }
 
@@ -125,22 +116,24 @@ const QPainterPath& Panes()
 {
     static const QPainterPath panes = [] {
         QPainterPath path;
-        path.addRect(14, 46, 42, 106);
-        path.moveTo(62, 46);
-        path.lineTo(102.9, 46);
-        path.cubicTo(102.2, 66, 101.3, 90, 102, 108);
+        path.addRect(14, Top, 42, 152 - Top);
+        path.moveTo(62, Top);
+        path.lineTo(102.2, Top);
+        path.cubicTo(101.7, 82, 101.4, 96, 102, 108);
         path.cubicTo(103, 116, 104, 120, 106.5, 126); // along the curtain
         path.lineTo(107, 152);
         path.lineTo(62, 152);
         path.closeSubpath();
         QPainterPath bar;
         bar.addRect(60, 86.5, 52, 4.6);
-        return path - bar;
+        QPainterPath pot;
+        pot.addRect(39, 144, 16, 9);
+        return path - bar - pot;
     }();
     return panes;
 }
 
-void PaintWindow(QPainter& painter, const RoomLook& look, int step)
+void PaintView(QPainter& painter, const RoomLook& look)
 {
     painter.save();
     painter.setClipPath(Panes(), Qt::IntersectClip);
@@ -148,9 +141,37 @@ void PaintWindow(QPainter& painter, const RoomLook& look, int step)
     PaintSky(painter, look);
     PaintHouses(painter, look);
     PaintYard(painter, look);
-    PaintFlakes(painter, look, step);
     PaintSheen(painter, look);
     painter.restore();
+}
+
+void PaintFlakes(QPainter& painter, const RoomLook& look, int step)
+{
+    if (look.season != Season::Winter) {
+        return;
+    }
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Dark(look) ? QColor(214, 226, 250, 215) : QColor(255, 255, 255, 235));
+    for (int i = 0; i < 34; ++i) {
+        const double fall = 1 + 1.3 * Scatter(i * 5 + 2);
+        const double y = 66 + std::fmod(86 * Scatter(i * 5) + fall * step, 86);
+        const double x = 14 + 96 * Scatter(i * 5 + 1) + 2 * std::sin(step * 0.5 + i);
+        const double size = 0.5 + 0.6 * Scatter(i * 5 + 3);
+        const QRectF flake(x - size, y - size, 2 * size, 2 * size);
+        // Left out where it would cross a frame: cheaper than a clip path.
+        if (std::ranges::any_of(Open, [&](const QRectF& pane) { return pane.contains(flake); })) {
+            painter.drawEllipse(flake);
+        }
+    }
+    painter.restore();
+}
+
+void PaintWindow(QPainter& painter, const RoomLook& look, int step)
+{
+    PaintView(painter, look);
+    PaintFlakes(painter, look, step);
+    PaintPlant(painter, look);
 }
 
 } // namespace torvenhall

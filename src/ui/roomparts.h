@@ -28,17 +28,31 @@ void PaintThings(QPainter& painter, const RoomLook& look, double pixelRatio);
 
 /// The visible glass.
 const QPainterPath& Panes();
-/// The yard with the houses and its sky, and the snow in the air at a step.
+/// All that is seen in the panes, with the snow in the air at a step.
 void PaintWindow(QPainter& painter, const RoomLook& look, int step);
+/// Of it, what does not move, and what falls.
+void PaintView(QPainter& painter, const RoomLook& look);
+void PaintFlakes(QPainter& painter, const RoomLook& look, int step);
 /// The houses of the yard, by the hour.
 void PaintHouses(QPainter& painter, const RoomLook& look);
 /// The tree, the snow on the ledge, the dish.
 void PaintYard(QPainter& painter, const RoomLook& look);
+/// The geranium on the sill, before the glass.
+void PaintPlant(QPainter& painter, const RoomLook& look);
 
 /// The lit screen, if there is one.
 void PaintScreen(QPainter& painter, const RoomLook& look, int step);
-/// The modem's lights and the disk's.
-void PaintSignals(QPainter& painter, const RoomLook& look, int step);
+/// The lights of the machine, the disks and the modem.
+void PaintSignals(QPainter& painter, const RoomLook& look);
+/// Those of the modem that flicker while a line is up.
+void PaintTraffic(QPainter& painter, const RoomLook& look, int step);
+
+/// A thing's own colour in that light.
+inline QColor Lit(QColor colour, QColor light)
+{
+    return {colour.red() * light.red() / 255, colour.green() * light.green() / 255,
+            colour.blue() * light.blue() / 255};
+}
 
 /// A number of 0..1 that always is the same for the same place.
 inline double Scatter(int seed)
