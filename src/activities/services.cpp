@@ -70,17 +70,20 @@ const ServiceWindow FoodShop{
     FoodShopServices,
 };
 
-bool CanAfford(const ServiceWindow& window, const Service& service)
+std::optional<MessageBox> ServiceRefusal(const ServiceWindow& window, const Service& service)
 {
     const Int32 price = service.price;
-    return window.needsMoreThanPrice ? GameState.Money > price : GameState.Money >= price;
+    if (window.needsMoreThanPrice ? GameState.Money > price : GameState.Money >= price) {
+        return std::nullopt;
+    }
+    return MessageBox{std::string(window.refusal), std::string(window.refusalTitle)};
 }
 
 void BuyService(const ServiceWindow& window, std::size_t index)
 {
     const Service& service = window.services[index];
-    if (!CanAfford(window, service)) {
-        MsgBox(window.refusal, window.refusalTitle, Icon::Information);
+    if (const auto refusal = ServiceRefusal(window, service)) {
+        MsgBox(refusal->text, refusal->title, refusal->icon);
         return;
     }
     for (const Change& change : service.changes) {

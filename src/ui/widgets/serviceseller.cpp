@@ -26,7 +26,7 @@ ServiceSeller::ServiceSeller(const char* name, const ServiceWindow& newTable, Si
 void ServiceSeller::RefreshChoices()
 {
     for (std::size_t i = 0; i < table.services.size(); ++i) {
-        Choice(i).SetMuted(!CanAfford(table, table.services[i]));
+        Choice(i).SetMuted(ServiceRefusal(table, table.services[i]).has_value());
     }
 }
 
