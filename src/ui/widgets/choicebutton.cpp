@@ -82,8 +82,9 @@ QColor ChoiceButton::InkOf(Tone tone) const
 {
     const QColor plain = Ink();
     const bool quiet = !isEnabled() || IsMuted();
+    const bool lit = underMouse() || isDown(); // on a lighter face
     const auto toned = [&](const QColor& colour) {
-        return quiet ? Mixed(colour, plain, 0.6) : colour;
+        return quiet ? Mixed(colour, plain, 0.6) : lit ? Mixed(colour, Qt::white, 0.35) : colour;
     };
     switch (tone) {
     case Tone::Gain:
@@ -108,7 +109,7 @@ void ChoiceButton::PaintPresent(QPainter& painter) const
     painter.save();
     painter.setClipPath(shape);
     QLinearGradient ground(rect().topLeft(), rect().topRight());
-    ground.setColorAt(0, QColor(255, 190, 104, 88));
+    ground.setColorAt(0, QColor(255, 190, 104, 72));
     ground.setColorAt(1, QColor(255, 190, 104, 22));
     painter.fillRect(rect(), ground);
     painter.fillRect(QRectF(0, 0, Px(4), height()), colour::Warm);
