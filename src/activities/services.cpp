@@ -70,10 +70,15 @@ const ServiceWindow FoodShop{
     FoodShopServices,
 };
 
-std::optional<MessageBox> ServiceRefusal(const ServiceWindow& window, const Service& service)
+bool CanAfford(const ServiceWindow& window, const Service& service)
 {
     const Int32 price = service.price;
-    if (window.needsMoreThanPrice ? GameState.Money > price : GameState.Money >= price) {
+    return window.needsMoreThanPrice ? GameState.Money > price : GameState.Money >= price;
+}
+
+std::optional<MessageBox> ServiceRefusal(const ServiceWindow& window, const Service& service)
+{
+    if (CanAfford(window, service)) {
         return std::nullopt;
     }
     return MessageBox{std::string(window.refusal), std::string(window.refusalTitle)};

@@ -29,8 +29,10 @@ struct ServiceWindow {
 
 extern const ServiceWindow Entertainment, Hospital, FoodShop;
 
-/// The box that a purchase would bring when the player's money does not reach,
-/// by the window's own test; nothing where it does.
+/// Whether the player's money reaches, by the window's own test.
+bool CanAfford(const ServiceWindow& window, const Service& service);
+/// The box that a purchase would bring when the player's money does not reach;
+/// nothing where it does.
 std::optional<MessageBox> ServiceRefusal(const ServiceWindow& window, const Service& service);
 /// Buys, or refuses with a box. A setter call that fails is reported and
 /// skipped; the next one runs.
