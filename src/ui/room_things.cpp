@@ -60,7 +60,7 @@ constexpr Thing Things[]{
     {Slot::Memory, 3, {{119, 161, 34, 23}, {482, 104}}},
 };
 
-constexpr Cut Keyboard{{317, 127, 76, 24}, {228, 158}}; // and the hands on it
+constexpr Cut Keyboard{{317, 127, 80, 24}, {228, 158}}; // and the hands on it
 // The hero's other faces, laid over the one in the picture.
 constexpr Cut Worried{{150, 76, 36, 48}, {294, 86}};
 constexpr Cut Glad{{188, 76, 36, 48}, {294, 86}};
