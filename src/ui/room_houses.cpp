@@ -57,10 +57,13 @@ QColor WindowColour(const HouseColours& colours, int number)
 
 void PaintWindows(QPainter& painter, const House& house, const HouseColours& colours, int number)
 {
-    for (double y = house.top + 2; y < Ground; y += house.storey) {
+    const int storeys = static_cast<int>((Ground - house.top - 2) / house.storey) + 1;
+    const int columns = static_cast<int>((house.width - house.cell * 0.1) / house.cell);
+    for (int storey = 0; storey < storeys; ++storey) {
+        const double y = house.top + 2 + storey * house.storey;
         painter.fillRect(QRectF(house.left, y - 1.2, house.width, 0.3), QColor(colours.seam));
-        for (double x = house.left + house.cell * 0.2;
-             x + house.cell * 0.7 < house.left + house.width; x += house.cell) {
+        for (int column = 0; column < columns; ++column) {
+            const double x = house.left + house.cell * (0.2 + column);
             painter.fillRect(QRectF(x, y, house.cell * 0.58, house.storey * 0.52),
                              WindowColour(colours, ++number));
         }

@@ -13,6 +13,8 @@ namespace
 
 /// Only the band between the panels is lit; the rest is dark anyway.
 constexpr QRectF Band(0, 60, 518, 138);
+/// What of it no panel covers.
+constexpr QRectF Free(0, 69, 518, 118);
 /// Light has no edges: a pixel of its map covers two units.
 constexpr double MapScale = 0.5;
 
@@ -173,6 +175,29 @@ void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
     painter.restore();
 }
 
+void PaintLampGlow(QPainter& painter, const RoomLook& look, double lamp)
+{
+    if (look.daylight == Daylight::Night || look.daylight == Daylight::Evening) {
+        PaintCatEyes(painter);
+    }
+    QLinearGradient air(QPointF(262, 100), QPointF(284, 178));
+    air.setColorAt(0, QColor(255, 206, 132, static_cast<int>(86 * lamp)));
+    air.setColorAt(0.5, QColor(255, 190, 110, static_cast<int>(34 * lamp)));
+    air.setColorAt(1, QColor(255, 180, 90, 0));
+    QPainterPath cone;
+    cone.addPolygon(QPolygonF{{254, 106}, {275.5, 97}, {346, 180}, {272, 180}});
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Screen);
+    painter.fillPath(cone, air);
+    painter.restore();
+    PaintRims(painter, look, lamp);
+    Shine(painter, {{263, 102}, 62, 50, 0xFF5A3C1A}, lamp);
+    Shine(painter, {{263, 102}, 15, 13, 0xFF806030}, lamp);
+    if (look.Running()) {
+        Shine(painter, {{258, 138}, 50, 48, 0xFF04161E}, 1);
+    }
+}
+
 } // namespace
 
 QColor LightAt(const RoomLook& look, QPointF place)
@@ -216,33 +241,14 @@ void PaintLight(QPainter& painter, const RoomLook& look)
 
 void PaintGlow(QPainter& painter, const RoomLook& look)
 {
-    const double lamp = HourOf(look).lamp;
-    if (lamp <= 0) { // the daylight in the air
-        Shine(painter, {{110, 96}, 360, 150, 0xFF1E2226}, 1);
-        return;
-    }
-    if (look.daylight == Daylight::Night || look.daylight == Daylight::Evening) {
-        PaintCatEyes(painter);
-    }
     painter.save();
-    QLinearGradient air(QPointF(262, 100), QPointF(284, 178));
-    air.setColorAt(0, QColor(255, 206, 132, static_cast<int>(86 * lamp)));
-    air.setColorAt(0.5, QColor(255, 190, 110, static_cast<int>(34 * lamp)));
-    air.setColorAt(1, QColor(255, 180, 90, 0));
-    QPainterPath cone;
-    cone.moveTo(254, 106);
-    cone.lineTo(275.5, 97);
-    cone.lineTo(346, 180);
-    cone.lineTo(272, 180);
-    painter.setCompositionMode(QPainter::CompositionMode_Screen);
-    painter.fillPath(cone, air);
-    painter.restore();
-    PaintRims(painter, look, lamp);
-    Shine(painter, {{263, 102}, 62, 50, 0xFF5A3C1A}, lamp);
-    Shine(painter, {{263, 102}, 15, 13, 0xFF806030}, lamp);
-    if (look.Running()) {
-        Shine(painter, {{258, 138}, 50, 48, 0xFF04161E}, 1);
+    painter.setClipRect(Free); // not into the gaps between the panels
+    if (const double lamp = HourOf(look).lamp; lamp > 0) {
+        PaintLampGlow(painter, look, lamp);
+    } else { // the daylight in the air
+        Shine(painter, {{110, 96}, 360, 150, 0xFF1E2226}, 1);
     }
+    painter.restore();
 }
 
 } // namespace torvenhall

@@ -1,4 +1,4 @@
-#include <QPixmap>
+#include <QImage>
 
 #include <cmath>
 
@@ -59,7 +59,7 @@ void PaintSnow(QPainter& painter, const RoomLook& look, int step)
     if (look.season != Season::Winter) {
         return;
     }
-    static QPixmap view;
+    static QImage view;
     static RoomLook viewLook;
     static double viewScale = 0;
     const QRectF place = Panes().boundingRect();
@@ -67,7 +67,8 @@ void PaintSnow(QPainter& painter, const RoomLook& look, int step)
     if (view.isNull() || viewLook != look || viewScale != scale) {
         viewLook = look;
         viewScale = scale;
-        view = QPixmap((place.size() * scale).toSize() + QSize(1, 1));
+        view = QImage((place.size() * scale).toSize() + QSize(1, 1),
+                      QImage::Format_ARGB32_Premultiplied);
         view.fill(Qt::transparent);
         QPainter onto(&view);
         onto.setRenderHint(QPainter::Antialiasing);
@@ -77,7 +78,7 @@ void PaintSnow(QPainter& painter, const RoomLook& look, int step)
     }
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawPixmap(QRectF(place.topLeft(), QSizeF(view.size()) / scale), view, view.rect());
+    painter.drawImage(QRectF(place.topLeft(), QSizeF(view.size()) / scale), view, view.rect());
     PaintFlakes(painter, look, step);
     PaintPlant(painter, look);
     painter.restore();

@@ -34,37 +34,40 @@ constexpr Thing Things[]{
     {Slot::Screen, 1, {{245, 0, 62, 58}, {200, 118}}},
     {Slot::Screen, 2, {{68, 0, 78, 73}, {186, 104}}},
     {Slot::Screen, 3, {{0, 0, 66, 74}, {198, 103}}},
-    {Slot::Sound, 1, {{130, 127, 25, 29}, {181, 149}}},
-    {Slot::Sound, 2, {{224, 76, 26, 40}, {180, 138}}},
+    {Slot::Sound, 1, {{248, 127, 25, 29}, {181, 149}}},
+    {Slot::Sound, 2, {{300, 76, 26, 40}, {180, 138}}},
     {Slot::Sound, 3, {{309, 0, 28, 51}, {179, 127}}},
-    {Slot::Case, 1, {{38, 127, 54, 29}, {137, 150}}},
+    {Slot::Case, 1, {{156, 127, 54, 29}, {137, 150}}},
     {Slot::Case, 2, {{197, 0, 46, 68}, {146, 112}}},
     {Slot::Case, 3, {{148, 0, 47, 70}, {145, 110}}},
-    {Slot::Disk, 1, {{0, 186, 42, 15}, {108, 166}}},
-    {Slot::Disk, 2, {{124, 161, 42, 21}, {108, 160}}},
-    {Slot::Disk, 3, {{277, 127, 45, 24}, {106, 157}}},
-    {Slot::Discs, 1, {{44, 186, 30, 13}, {82, 168}}},
-    {Slot::Discs, 2, {{168, 161, 28, 21}, {84, 160}}},
-    {Slot::Discs, 3, {{94, 127, 34, 29}, {78, 152}}},
-    {Slot::Scanner, 1, {{266, 161, 76, 18}, {2, 164}}},
-    {Slot::Scanner, 2, {{198, 161, 66, 20}, {18, 162}}},
-    {Slot::Scanner, 3, {{252, 76, 82, 32}, {8, 150}}},
-    {Slot::Printer, 1, {{150, 76, 72, 45}, {444, 138}}},
+    {Slot::Disk, 1, {{120, 187, 42, 15}, {108, 166}}},
+    {Slot::Disk, 2, {{243, 161, 42, 21}, {108, 160}}},
+    {Slot::Disk, 3, {{0, 161, 45, 24}, {106, 157}}},
+    {Slot::Discs, 1, {{164, 187, 30, 13}, {82, 168}}},
+    {Slot::Discs, 2, {{287, 161, 28, 21}, {84, 160}}},
+    {Slot::Discs, 3, {{212, 127, 34, 29}, {78, 152}}},
+    {Slot::Scanner, 1, {{0, 187, 76, 18}, {2, 164}}},
+    {Slot::Scanner, 2, {{317, 161, 66, 20}, {18, 162}}},
+    {Slot::Scanner, 3, {{0, 127, 82, 32}, {8, 150}}},
+    {Slot::Printer, 1, {{226, 76, 72, 45}, {444, 138}}},
     {Slot::Printer, 2, {{0, 76, 72, 49}, {444, 134}}},
     {Slot::Printer, 3, {{74, 76, 74, 49}, {442, 134}}},
-    {Slot::Modem, 1, {{344, 161, 40, 16}, {416, 165}}},
-    {Slot::Modem, 2, {{157, 127, 40, 29}, {416, 152}}},
-    {Slot::Modem, 3, {{157, 127, 40, 29}, {416, 152}}},
-    {Slot::Memory, 1, {{324, 127, 34, 23}, {482, 104}}},
-    {Slot::Memory, 2, {{360, 127, 34, 23}, {482, 104}}},
-    {Slot::Memory, 3, {{0, 161, 34, 23}, {482, 104}}},
+    {Slot::Modem, 1, {{78, 187, 40, 16}, {416, 165}}},
+    {Slot::Modem, 2, {{275, 127, 40, 29}, {416, 152}}},
+    {Slot::Modem, 3, {{275, 127, 40, 29}, {416, 152}}},
+    {Slot::Memory, 1, {{47, 161, 34, 23}, {482, 104}}},
+    {Slot::Memory, 2, {{83, 161, 34, 23}, {482, 104}}},
+    {Slot::Memory, 3, {{119, 161, 34, 23}, {482, 104}}},
 };
 
-constexpr Cut Keyboard{{199, 127, 76, 24}, {228, 158}}; // and the hands on it
-constexpr Cut Bride{{336, 76, 32, 32}, {392, 95}};
-constexpr Cut Wedding{{0, 127, 36, 32}, {390, 95}};
-constexpr QRectF Boys[]{{36, 161, 20, 23}, {58, 161, 20, 23}};
-constexpr QRectF Girls[]{{80, 161, 20, 23}, {102, 161, 20, 23}};
+constexpr Cut Keyboard{{317, 127, 80, 24}, {228, 158}}; // and the hands on it
+// The hero's other faces, laid over the one in the picture.
+constexpr Cut Worried{{150, 76, 36, 48}, {294, 86}};
+constexpr Cut Glad{{188, 76, 36, 48}, {294, 86}};
+constexpr Cut Bride{{84, 127, 32, 32}, {392, 95}};
+constexpr Cut Wedding{{118, 127, 36, 32}, {390, 95}};
+constexpr QRectF Boys[]{{155, 161, 20, 23}, {177, 161, 20, 23}};
+constexpr QRectF Girls[]{{199, 161, 20, 23}, {221, 161, 20, 23}};
 constexpr QPointF FirstChild{420, 104};
 constexpr double ChildStep = 14.6;
 /// The second speaker is the first one's mirror image about this line.
@@ -72,7 +75,8 @@ constexpr double SpeakersMiddle = 303;
 
 bool AnythingToShow(const RoomLook& look)
 {
-    return look.bride || look.wedding || look.sons + look.daughters > 0 ||
+    return look.mood != Mood::Calm || look.bride || look.wedding ||
+           look.sons + look.daughters > 0 ||
            std::ranges::any_of(look.parts, [](int level) { return level > 0; });
 }
 
@@ -127,6 +131,9 @@ void PaintThings(QPainter& painter, const RoomLook& look, double pixelRatio)
         return;
     }
     const QImage& sheet = Sheet(UnitScale() * pixelRatio > SheetScale);
+    if (look.mood != Mood::Calm) {
+        Draw(painter, sheet, look.mood == Mood::Glad ? Glad : Worried);
+    }
     for (const Thing& thing : Things) {
         if (look.Part(thing.slot) != thing.level) {
             continue;

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "core/GameState.h"
+#include "core/shown.h"
 #include "equipment/hardware.h"
 #include "network/network.h"
 
@@ -52,6 +53,19 @@ Daylight DaylightAt(int hour, int month)
     return hour > to && hour < LightsGoOut ? Daylight::Evening : Daylight::Night;
 }
 
+constexpr int GladFrom = 60; ///< mood, percent
+
+/// Worried by whatever the main window shows as dangerous.
+Mood PresentMood()
+{
+    constexpr Label Vital[]{Label::lblHappy, Label::lblEat, Label::lblHealth};
+    if (std::ranges::any_of(Vital,
+                            [](Label label) { return ShownAt(label).colour == TextColour::Red; })) {
+        return Mood::Worried;
+    }
+    return GameState.Happy.value() >= GladFrom ? Mood::Glad : Mood::Calm;
+}
+
 constexpr Season Seasons[]{Season::Winter, Season::Winter, Season::Spring, Season::Spring,
                            Season::Spring, Season::Summer, Season::Summer, Season::Summer,
                            Season::Autumn, Season::Autumn, Season::Autumn, Season::Winter};
@@ -66,6 +80,7 @@ RoomLook PresentRoom()
     look.daylight = DaylightAt(GameState.GameTime.hour, look.month);
     look.season = Seasons[look.month - 1];
     look.bareTree = look.month <= 4 || look.month >= 11;
+    look.mood = PresentMood();
     for (int i = 0; i < Slots; ++i) {
         const int part = (GameState.*Hardware[i].field).value();
         const auto& first = FirstOfDrawing[i];

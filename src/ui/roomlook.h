@@ -11,6 +11,9 @@ enum class Daylight { Night, Dawn, Day, Dusk, Evening };
 /// What the year has done to the yard.
 enum class Season { Winter, Spring, Summer, Autumn };
 
+/// What the hero's face tells.
+enum class Mood { Calm, Glad, Worried };
+
 /// The slots of the computer, in the order of the rules' hardware table.
 enum class Slot { Case, Memory, Screen, Disk, Discs, Modem, Sound, Scanner, Printer };
 inline constexpr int Slots = 9;
@@ -20,8 +23,9 @@ struct RoomLook {
     Daylight daylight = Daylight::Night;
     Season season = Season::Winter;
     bool bareTree = true; ///< also before the leaves and after them
-    int day = 1;          ///< of the calendar leaf, 1..31
-    int month = 1;        ///< 1..12
+    Mood mood = Mood::Calm;
+    int day = 1;   ///< of the calendar leaf, 1..31
+    int month = 1; ///< 1..12
     /// How good a slot's part looks: 0 none, then 1 up to its best drawing.
     std::array<int, Slots> parts{};
     bool bride = false;          ///< a photo of her stands on the shelf
