@@ -171,7 +171,7 @@ void Restore(const ServiceWindow& window, Stat stat)
         const bool helps = std::ranges::any_of(service.changes, [&](const Change& change) {
             return change.stat == stat && change.amount > 0;
         });
-        if (helps && CanAfford(window, service) &&
+        if (helps && !ServiceRefusal(window, service) &&
             (best == nullptr || best->price < service.price)) {
             best = &service;
             index = i;
