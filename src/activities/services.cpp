@@ -76,11 +76,19 @@ bool CanAfford(const ServiceWindow& window, const Service& service)
     return window.needsMoreThanPrice ? GameState.Money > price : GameState.Money >= price;
 }
 
+std::optional<MessageBox> ServiceRefusal(const ServiceWindow& window, const Service& service)
+{
+    if (CanAfford(window, service)) {
+        return std::nullopt;
+    }
+    return MessageBox{std::string(window.refusal), std::string(window.refusalTitle)};
+}
+
 void BuyService(const ServiceWindow& window, std::size_t index)
 {
     const Service& service = window.services[index];
-    if (!CanAfford(window, service)) {
-        MsgBox(window.refusal, window.refusalTitle, Icon::Information);
+    if (const auto refusal = ServiceRefusal(window, service)) {
+        MsgBox(refusal->text, refusal->title, refusal->icon);
         return;
     }
     for (const Change& change : service.changes) {

@@ -2,10 +2,12 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string_view>
 
 #include "core/changes.h"
+#include "core/port.h"
 
 namespace torvenhall
 {
@@ -29,6 +31,9 @@ extern const ServiceWindow Entertainment, Hospital, FoodShop;
 
 /// Whether the player's money reaches, by the window's own test.
 bool CanAfford(const ServiceWindow& window, const Service& service);
+/// The box that a purchase would bring when the player's money does not reach;
+/// nothing where it does.
+std::optional<MessageBox> ServiceRefusal(const ServiceWindow& window, const Service& service);
 /// Buys, or refuses with a box. A setter call that fails is reported and
 /// skipped; the next one runs.
 void BuyService(const ServiceWindow& window, std::size_t index);

@@ -8,6 +8,16 @@
 namespace torvenhall
 {
 
+namespace
+{
+
+const Job* JobOf(int button)
+{
+    return Find(std::span(Jobs).subspan(1), button);
+}
+
+} // namespace
+
 void SetWork(Int16 index)
 {
     if (const Job* job = Find(Jobs, index)) {
@@ -19,16 +29,21 @@ void SetWork(Int16 index)
               "Работа: " + GameState.WorkTitle + " ($" + Decimal(GameState.WorkPay) + "/день)");
 }
 
+std::optional<MessageBox> JobRefusal(int button)
+{
+    const Job* job = JobOf(button);
+    return job != nullptr ? RefusalOf(job->demands, job->refusal, "Нифига!") : std::nullopt;
+}
+
 void ApplyForJob(int button)
 {
-    const Job* job = Find(std::span(Jobs).subspan(1), button);
-    if (job == nullptr) {
+    if (JobOf(button) == nullptr) {
         return;
     }
-    if (AreMet(job->demands)) {
-        SetWork(button + 1);
+    if (const auto refusal = JobRefusal(button)) {
+        MsgBox(refusal->text, refusal->title, refusal->icon);
     } else {
-        MsgBox(job->refusal, "Нифига!", Icon::Information);
+        SetWork(button + 1);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -104,6 +105,9 @@ inline constexpr auto JobCaptions = [] {
 /// Shows the job either way.
 void SetWork(Int16 index);
 
+/// The box that an application for the job of a button would bring, or nothing
+/// where the job would be given.
+std::optional<MessageBox> JobRefusal(int button);
 /// Applies for the job of a button: taken, or refused with a box.
 void ApplyForJob(int button);
 

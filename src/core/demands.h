@@ -1,9 +1,13 @@
 #pragma once
 
 #include <algorithm>
+#include <optional>
 #include <span>
+#include <string>
+#include <string_view>
 
 #include "core/GameState.h"
+#include "core/port.h"
 
 namespace torvenhall
 {
@@ -23,6 +27,16 @@ inline bool AreMet(std::span<const Demand> demands)
                (demand.exactly ? GameState.*demand.field == demand.value
                                : GameState.*demand.field >= demand.value);
     });
+}
+
+/// The box that refuses what asks for this, or nothing where it is met.
+inline std::optional<MessageBox> RefusalOf(std::span<const Demand> demands, std::string_view text,
+                                           std::string_view title)
+{
+    if (AreMet(demands)) {
+        return std::nullopt;
+    }
+    return MessageBox{std::string(text), std::string(title)};
 }
 
 /// Whether there is anything that a new player lacks.

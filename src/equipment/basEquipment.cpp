@@ -16,16 +16,29 @@ namespace torvenhall
 namespace
 {
 
+std::optional<MessageBox> PriceRefusal(const std::string& name, Int16 price)
+{
+    if (GameState.Money - price >= 0) {
+        return std::nullopt;
+    }
+    return MessageBox{"У вас недостаточно денег на покупку " + name + " за $" + Decimal(price),
+                      "Я тоже много хочу!!!"};
+}
+
 /// Takes the price, or refuses.
 bool Pay(const std::string& name, Int16 price)
 {
-    if (GameState.Money - price < 0) {
-        MsgBox("У вас недостаточно денег на покупку " + name + " за $" + Decimal(price),
-               "Я тоже много хочу!!!", Icon::Information);
+    if (const auto refusal = PriceRefusal(name, price)) {
+        MsgBox(refusal->text, refusal->title, refusal->icon);
         return false;
     }
     SetMoney(GameState.Money - price);
     return true;
+}
+
+std::optional<MessageBox> ProgramRefusal(const Program& program)
+{
+    return RefusalOf(program.demands, program.refusal, "Ну у Вас и запросы...");
 }
 
 } // namespace
@@ -38,6 +51,17 @@ Int16& HardwareField(Int16 category)
 Int16& SoftwareField(Int16 category)
 {
     return GameState.*At(Software, category).field;
+}
+
+std::optional<MessageBox> HardwareRefusal(Int16 category, Int16 index)
+{
+    return PriceRefusal(GetHardwareName(category, index), GetHardwarePrice(category, index));
+}
+
+std::optional<MessageBox> SoftwareRefusal(Int16 category, Int16 index)
+{
+    const Program* program = ProgramOf(category, index);
+    return program != nullptr ? ProgramRefusal(*program) : std::nullopt;
 }
 
 void InstallHardware(Int16 category, Int16 index, bool pay)
@@ -63,8 +87,8 @@ bool InstallSoftware(Int16 category, Int16 index)
         if (program == nullptr) {
             return;
         }
-        if (!AreMet(program->demands)) {
-            MsgBox(program->refusal, "Ну у Вас и запросы...", Icon::Information);
+        if (const auto refusal = ProgramRefusal(*program)) {
+            MsgBox(refusal->text, refusal->title, refusal->icon);
             return;
         }
         const SoftwareCategory& row = At(Software, category);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "core/GameState.h"
 #include "core/port.h"
 
@@ -9,6 +11,12 @@ namespace torvenhall
 /// The field of GameState for a category 0..8 or 0..5; error 9 outside.
 Int16& HardwareField(Int16 category);
 Int16& SoftwareField(Int16 category);
+
+/// The box that a purchase of the part, or an installation of the program, would
+/// bring; nothing where it would succeed, or where there is no such item. Error
+/// 6 as the purchase's own.
+std::optional<MessageBox> HardwareRefusal(Int16 category, Int16 index);
+std::optional<MessageBox> SoftwareRefusal(Int16 category, Int16 index);
 
 /// Puts a part into its slot, for its full price if `pay` is set: refused
 /// with a box when the money does not reach. Errors are reported.

@@ -18,12 +18,15 @@ Offer HardwareOffer(Int16 category)
     offer.caption = GetHardwareCategoryName(category);
     TrappedSilently([&] {
         const Int16 installed = HardwareField(category);
-        offer.available = !GetHardwareName(category, installed + 1).empty();
+        offer.installed = GetHardwareName(category, installed);
+        offer.offered = GetHardwareName(category, installed + 1);
+        offer.available = !offer.offered.empty();
         const Int16 shown = offer.available ? installed + 1 : installed;
         const Int16 price = GetHardwarePrice(category, shown);
         offer.price = price.value();
         offer.caption = std::string(GetHardwareCategoryName(category)) + " - " +
                         GetHardwareName(category, shown) + " - $" + Decimal(price);
+        offer.refusal = HardwareRefusal(category, installed + 1);
     });
     return offer;
 }
@@ -34,10 +37,13 @@ Offer SoftwareOffer(Int16 category)
     offer.caption = FindOrEmpty(Software, category).offer;
     TrappedSilently([&] {
         const Int16 installed = SoftwareField(category);
-        offer.available = !GetSoftwareName(category, installed + 1).empty();
+        offer.installed = GetSoftwareName(category, installed);
+        offer.offered = GetSoftwareName(category, installed + 1);
+        offer.available = !offer.offered.empty();
         const Int16 shown = offer.available ? installed + 1 : installed;
         offer.caption = std::string(At(Software, category).offer) +
                         std::string(GetSoftwareName(category, shown));
+        offer.refusal = SoftwareRefusal(category, installed + 1);
     });
     return offer;
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "core/port.h"
 #include "system/checked.h"
 
 namespace torvenhall
@@ -10,8 +12,11 @@ namespace torvenhall
 /// What a shop's button for one category shows.
 struct Offer {
     std::string caption;
-    bool available = true; ///< false once the list's last item is installed
-    int price = 0;         ///< dollars
+    bool available = true;             ///< false once the list's last item is installed
+    int price = 0;                     ///< dollars
+    std::string installed;             ///< the present item's name
+    std::string offered;               ///< the next one's, empty after the last
+    std::optional<MessageBox> refusal; ///< what a click would bring at this moment
 };
 
 Offer HardwareOffer(Int16 category);

@@ -13,16 +13,17 @@ namespace
 {
 
 constexpr double LineHeight = 15.5;
-// Longer lines are broken in two.
-constexpr int LongLine = 52;
 constexpr const char* Lines[] = {
     "Пишите нам: torvenhall@marshend.example",
     "Сайт игры: http://torvenhall.example/",
     "Ошибки и пожелания: http://torvenhall.example/bugs/",
     "Правила, картинки и анекдоты: Marshend Software",
-    "Бета-тестирование: дворник из третьего подъезда и его модем",
-    "Консультант по питанию: Шеф-Повор. Музыка: вентилятор процессора",
-    "Свободная программа, лицензия MIT. Гарантии нет, зато есть пауза.",
+    "Бета-тестирование:",
+    "дворник из третьего подъезда и его модем",
+    "Консультант по питанию: Шеф-Повор.",
+    "Музыка: вентилятор процессора",
+    "Свободная программа, лицензия MIT.",
+    "Гарантии нет, зато есть пауза.",
 };
 
 } // namespace
@@ -38,10 +39,9 @@ frmAbout::frmAbout(QWidget* parent) : GameWindow("frmAbout", 460, 346, parent)
              TextType(13, true))
         ->SetColour(colour::Warm);
     double top = 138;
-    for (const QString line : Lines) {
-        const double height = line.size() > LongLine ? 2 * LineHeight : LineHeight;
-        AddLabel({}, line, {26, top, 252, height}, CondensedType(13))->setWordWrap(true);
-        top += height;
+    for (const char* line : Lines) {
+        AddLabel({}, line, {26, top, 252, LineHeight}, CondensedType(13));
+        top += LineHeight;
     }
     GameButton* system = AddButton("Command2", "О системе...", {210, 304, 122, 30});
     system->SetGlyph(Glyph::Screen);

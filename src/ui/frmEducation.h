@@ -13,12 +13,12 @@ public:
 
     void Load() override;
 
-private:
-    void AddProgramme(const QString& labelName, const QString& text, double top);
-    GameButton* AddToggle(const char* name, const QString& caption, double top, void (*toggle)());
+protected:
+    Standing StandingOf(std::size_t index) const override;
 
-    GameButton* school;
-    GameButton* courses;
+private:
+    void AddProgramme(const QString& labelName, const QString& text, const Row& row, double top,
+                      void (*toggle)());
 };
 
 } // namespace torvenhall

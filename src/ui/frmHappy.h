@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/choiceglyphs.h"
 #include "ui/widgets/serviceseller.h"
 
 namespace torvenhall
@@ -10,7 +11,7 @@ class frmHappy : public ServiceSeller
 {
 public:
     explicit frmHappy(QWidget* parent)
-        : ServiceSeller("frmHappy", Entertainment, Sign::Neon, parent)
+        : ServiceSeller("frmHappy", Entertainment, {Sign::Neon, 232, EntertainmentGlyphs}, parent)
     {
     }
 };

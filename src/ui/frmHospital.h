@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/choiceglyphs.h"
 #include "ui/widgets/serviceseller.h"
 
 namespace torvenhall
@@ -10,7 +11,7 @@ class frmHospital : public ServiceSeller
 {
 public:
     explicit frmHospital(QWidget* parent)
-        : ServiceSeller("frmHospital", Hospital, Sign::Enamel, parent)
+        : ServiceSeller("frmHospital", Hospital, {Sign::Enamel, 232, HospitalGlyphs}, parent)
     {
     }
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/choiceglyphs.h"
 #include "ui/widgets/serviceseller.h"
 
 namespace torvenhall
@@ -9,7 +10,10 @@ namespace torvenhall
 class frmShop : public ServiceSeller
 {
 public:
-    explicit frmShop(QWidget* parent) : ServiceSeller("frmShop", FoodShop, Sign::Awning, parent) {}
+    explicit frmShop(QWidget* parent)
+        : ServiceSeller("frmShop", FoodShop, {Sign::Awning, 294, FoodGlyphs}, parent)
+    {
+    }
 };
 
 } // namespace torvenhall

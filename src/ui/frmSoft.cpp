@@ -1,14 +1,18 @@
 #include "ui/frmSoft.h"
 
 #include "equipment/catalogue.h"
+#include "ui/choiceglyphs.h"
 
 namespace torvenhall
 {
 
+static_assert(std::size(SoftwareGlyphs) == SoftwareCategories);
+
 frmSoft::frmSoft(QWidget* parent)
-    : EquipmentShop({"frmSoft", "Софт", "SOFT"},
-                    {"cmdUpgrade", SoftwareCategories, 320, SoftwareOffer, InstallNextSoftware},
-                    parent)
+    : EquipmentShop(
+          {"frmSoft", "Софт", "SOFT"},
+          {"cmdUpgrade", 282, TextType(13), SoftwareGlyphs, SoftwareOffer, InstallNextSoftware},
+          parent)
 {
     AddSlogan("Label4", "cmdUpgraded", "А Вы удалили MS DOS 1.0?", Sign::Card);
 }

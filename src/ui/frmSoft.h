@@ -11,9 +11,6 @@ class frmSoft : public EquipmentShop
 {
 public:
     explicit frmSoft(QWidget* parent);
-
-protected:
-    void RefreshChoices() override {}
 };
 
 } // namespace torvenhall

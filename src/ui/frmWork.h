@@ -10,6 +10,9 @@ class frmWork : public ActivityWindow
 {
 public:
     explicit frmWork(QWidget* parent);
+
+protected:
+    Standing StandingOf(std::size_t index) const override;
 };
 
 } // namespace torvenhall

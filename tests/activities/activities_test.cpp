@@ -17,8 +17,11 @@ TEST_F(Activities, EveryJobHasItsTitlePayAndRequirements)
         std::string refused, given;
         const auto apply = [&] {
             SetWork(0);
+            const auto refusal = JobRefusal(job - 1);
             const std::string told = Outcome([&] { ApplyForJob(job - 1); });
             const bool isGiven = GameState.CurrWork == job;
+            EXPECT_EQ(!refusal, isGiven);
+            EXPECT_TRUE(isGiven || told == "i " + refusal->title + ": " + refusal->text);
             std::string& kept = isGiven ? given : refused;
             EXPECT_TRUE(kept.empty() || kept == told);
             kept = told;
@@ -30,7 +33,8 @@ TEST_F(Activities, EveryJobHasItsTitlePayAndRequirements)
     }
     Given("WorkPay=7 Money=100");
     for (const int unknown : {13, -1}) {
-        Try("", [=] { ApplyForJob(unknown - 1); }); // there is no such button
+        EXPECT_FALSE(JobRefusal(unknown - 1)); // there is no such button
+        Try("", [=] { ApplyForJob(unknown - 1); });
         Try("", [=] { SetWork(unknown); });
     }
     ExpectKept("jobs.txt", lines);
@@ -46,9 +50,11 @@ TEST_F(Activities, EveryServiceHasItsPriceAndItsSettersInOrder)
         for (std::size_t i = 0; i < services.size(); ++i) {
             const auto buyWith = [&](int money) {
                 Assign("Happy=0 Health=0 EatLevel=0 Money=" + std::to_string(money));
-                const bool enough = CanAfford(*window, services[i]);
+                const auto refusal = ServiceRefusal(*window, services[i]);
+                const bool enough = !refusal;
                 const std::string outcome = Outcome([&] { BuyService(*window, i); });
                 EXPECT_EQ(outcome.starts_with("i "), !enough);
+                EXPECT_TRUE(enough || outcome == "i " + refusal->title + ": " + refusal->text);
                 return i > 0 && !enough ? "refused" : outcome;
             };
             EXPECT_EQ(buyWith(std::numeric_limits<int>::min()), buyWith(-1));

@@ -15,20 +15,24 @@ TEST_F(Equipment, EveryPartIsOfferedAndBoughtForExactlyItsPrice)
         const std::string name{GetHardwareCategoryName(category)};
         Offer next = HardwareOffer(category);
         for (int index = 1; next.available; ++index) {
-            const auto [caption, available, price] = next;
+            const Offer shown = next;
             const auto buy = [=] { BuyNextHardware(category); };
             const std::string part = GetHardwareName(category, index);
-            const std::string cost = std::to_string(price);
-            EXPECT_EQ(caption, name + " - " + part + " - $" + cost);
+            const std::string cost = std::to_string(shown.price);
+            EXPECT_EQ(shown.offered, part);
+            EXPECT_EQ(shown.installed, GetHardwareName(category, index - 1));
+            EXPECT_EQ(shown.caption, name + " - " + part + " - $" + cost);
             EXPECT_EQ(GetHardwareEntry(category, index), part + "|" + cost);
-            Assign("Money=" + std::to_string(price - 1));
-            EXPECT_EQ(Outcome(buy), "i Я тоже много хочу!!!: У вас недостаточно денег на покупку " +
-                                        part + " за $" + cost);
+            Assign("Money=" + std::to_string(shown.price - 1));
+            const std::string told = "У вас недостаточно денег на покупку " + part + " за $" + cost;
+            EXPECT_EQ(HardwareOffer(category).refusal.value().text, told);
+            EXPECT_EQ(Outcome(buy), "i Я тоже много хочу!!!: " + told);
             Assign("Money=" + cost);
+            EXPECT_FALSE(HardwareOffer(category).refusal);
             lines.push_back(name + ": " + Outcome(buy));
             EXPECT_EQ(HardwareScore(), ++score);
             next = HardwareOffer(category);
-            EXPECT_EQ(next.available, next.caption != caption) << "the last part stays";
+            EXPECT_EQ(next.available, next.caption != shown.caption) << "the last part stays";
         }
     }
     ExpectKept("hardware.txt", lines);
@@ -48,7 +52,10 @@ TEST_F(Equipment, EveryProgramInstallsOnItsLeastComputerAndOnNoLesserOne)
             std::string refused;
             const auto install = [&] {
                 bool fits = false;
+                const auto refusal = SoftwareRefusal(category, index);
                 const std::string told = Outcome([&] { fits = InstallSoftware(category, index); });
+                EXPECT_EQ(!refusal, fits);
+                EXPECT_TRUE(fits || told == "i " + refusal->title + ": " + refusal->text);
                 EXPECT_TRUE(fits || refused.empty() || told == refused);
                 refused = fits ? refused : told;
                 return fits;
@@ -83,7 +90,7 @@ TEST_F(Equipment, AShopOffersOnlyTheNextItemAndAnythingElseIsNothing)
         EXPECT_EQ(GetHardwarePrice(category, index), 0);
         EXPECT_EQ(GetHardwareCategoryName(category).empty(), category < 0 || category > 8);
         EXPECT_EQ(GetSoftwareName(category, index), "");
-        EXPECT_FALSE(InstallSoftware(category, index));
+        EXPECT_FALSE(SoftwareRefusal(category, index) || InstallSoftware(category, index));
     }
     for (Int16& (*const field)(Int16) : {HardwareField, SoftwareField}) {
         EXPECT_EQ(ErrorOf([=] { field(-1); }).number, error::Subscript);

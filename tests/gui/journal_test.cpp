@@ -46,10 +46,12 @@ struct Journal : Play {
         }
         const auto* button = dynamic_cast<const GameButton*>(&control);
         const QString spoken = control.accessibleName();
+        const QString told = control.accessibleDescription().replace('\n', '/');
         return "  " + QString(control.metaObject()->className()).mid(1) + ' ' +
                control.objectName() + (text.isEmpty() ? QString() : " \"" + text + '"') +
                (spoken.isEmpty() ? QString() : ", spoken \"" + spoken + '"') +
-               (button && button->IsMuted() ? ", too dear" : "") +
+               (button && button->IsMuted() ? ", out of reach" : "") +
+               (button && !told.isEmpty() ? ", told \"" + told + '"' : QString()) +
                (control.property("readOnly").toBool() ? ", read only" : "") +
                (control.isEnabledTo(control.window()) ? "" : ", disabled") +
                (control.isVisibleTo(control.window()) ? "" : ", hidden");

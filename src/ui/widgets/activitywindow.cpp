@@ -1,6 +1,11 @@
 #include "ui/widgets/activitywindow.h"
 
-#include "ui/widgets/metrics.h"
+#include <QPointer>
+
+#include <utility>
+
+#include "game/entry.h"
+#include "ui/widgets/placing.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
@@ -8,20 +13,23 @@ namespace torvenhall
 
 namespace
 {
-constexpr double StripHeight = 30;
-constexpr double ChoiceHeight = 27;
-constexpr double ChoiceGap = 4;
-constexpr double PanelPadding = 10;
-constexpr double CaptionHeight = 20;
+constexpr double Padding = 7;
+constexpr double CaptionHeight = 19;
+constexpr double AboveStrip = 8;
+constexpr double BesideBack = 10;
 } // namespace
 
 ActivityWindow::ActivityWindow(const Plan& plan, QWidget* parent)
     : GameWindow(plan.name, plan.width, plan.height, parent), pictureKey(plan.pictureKey),
-      width(plan.width), height(plan.height)
+      height(plan.height)
 {
     setWindowTitle(plan.caption);
     setWindowModality(Qt::WindowModal);
-    AddStrip();
+    const QRectF place(Margin, height - Margin - Strip::Height,
+                       plan.width - 2 * Margin - BackWidth - BesideBack, Strip::Height);
+    Surface().AddPanel(place, Scene::Panel::Deep);
+    strip = new Strip(place.width(), plan.learning, &Surface());
+    Place(*strip, place);
 }
 
 void ActivityWindow::Load()
@@ -30,75 +38,106 @@ void ActivityWindow::Load()
     Surface().LoadBackground(pictureKey);
 }
 
-void ActivityWindow::AddChoices(const Group& group,
-                                const std::vector<std::pair<QString, QString>>& namedCaptions)
+void ActivityWindow::AddChoices(const List& list, const std::vector<Row>& rows)
 {
-    const int count = static_cast<int>(namedCaptions.size());
-    const int rows = (count + group.columns - 1) / group.columns;
-    const double captionHeight = group.caption.isEmpty() ? 0 : CaptionHeight;
-    const double panelHeight =
-        2 * PanelPadding - 2 + captionHeight + rows * ChoiceHeight + (rows - 1) * ChoiceGap;
-    const double bottom = height - Margin - StripHeight - 8;
-    const QRectF panel(Margin, bottom - panelHeight, group.width, panelHeight);
+    const double count = static_cast<double>(rows.size());
+    const double head = list.caption.isEmpty() ? Padding : Padding / 2 + CaptionHeight;
+    const double panelHeight = head + count * (list.rowHeight + list.gap) - list.gap + Padding;
+    const double bottom = height - Margin - Strip::Height - AboveStrip;
+    const QRectF panel(Margin, bottom - panelHeight, list.width, panelHeight);
     Surface().AddPanel(panel);
-
-    const QRectF inside =
-        panel.adjusted(PanelPadding, PanelPadding - 2, -PanelPadding, -PanelPadding);
-    if (!group.caption.isEmpty()) {
-        AddLabel(group.captionName, group.caption,
-                 {inside.left() + 1, inside.top() - 1, inside.width(), CaptionHeight - 2},
+    if (!list.caption.isEmpty()) {
+        AddLabel(list.captionName, list.caption,
+                 {panel.left() + Padding + 2, panel.top() + 2, list.width - 2 * Padding - 2,
+                  CaptionHeight},
                  TextType(13, true))
             ->SetColour(colour::Warm);
     }
-    const double column = (inside.width() - (group.columns - 1) * ChoiceGap) / group.columns;
-    for (int i = 0; i < count; ++i) {
-        const int right = i / rows, down = i % rows;
-        const double left = inside.left() + right * (column + ChoiceGap);
-        const double top = inside.top() + captionHeight + down * (ChoiceHeight + ChoiceGap);
-        const auto& [name, caption] = namedCaptions[static_cast<std::size_t>(i)];
-        GameButton* button = AddButton(name, caption, {left, top, column, ChoiceHeight});
-        button->SetAlignment(Qt::AlignLeft);
-        button->SetEnterPresses(false);
-        choices.push_back(button);
+    QRectF place(panel.left() + Padding, panel.top() + head, list.width - 2 * Padding,
+                 list.rowHeight);
+    for (const Row& row : rows) {
+        Dress(AddChoice(row, place), list.type);
+        place.translate(0, list.rowHeight + list.gap);
     }
 }
 
-void ActivityWindow::AddStrip()
+ChoiceButton& ActivityWindow::AddChoice(const Row& row, const QRectF& place)
 {
-    const double stripWidth = width - 2 * Margin - BackWidth - 10;
-    Surface().AddPanel({Margin, height - Margin - StripHeight, stripWidth, StripHeight},
-                       Scene::Panel::Deep);
-    AddStripItem(0, "Бюджет", Label::lblMoney);
-    AddStripItem(1, "Настроение", Label::lblHappy);
-    AddStripItem(2, "Сытость", Label::lblEat);
-    AddStripItem(3, "Здоровье", Label::lblHealth);
+    auto* button = new ChoiceButton(row.name, row.caption, &Surface());
+    Place(*button, place);
+    button->SetGlyph(row.glyph);
+    const std::size_t index = choices.size();
+    button->OnAttention([this, index](bool turnedTo) {
+        if (turnedTo || attended == index) {
+            attended = turnedTo ? index : Nobody;
+            Foresee();
+        }
+    });
+    choices.push_back(button);
+    return *button;
 }
 
-void ActivityWindow::AddStripItem(int index, const QString& caption, Label label)
+void ActivityWindow::SetDeed(std::size_t index, std::function<void()> deed)
 {
-    const double stripWidth = width - 2 * Margin - BackWidth - 10;
-    const double item = (stripWidth - 12) / 4;
-    const double left = Margin + 10 + index * item;
-    const double top = height - Margin - StripHeight;
-    AddLabel({}, caption, {left, top + 1, item - 8, 14}, TextType(9.5))->SetColour(colour::Caption);
-    GameLabel* value = AddLabel({}, {}, {left, top + 13, item - 8, 15}, TextType(12.5, true));
-    value->SetSpokenCaption(caption);
-    if (label == Label::lblMoney) {
-        value->FlashChanges();
+    connect(choices[index], &QAbstractButton::clicked, this, [this, index, deed = std::move(deed)] {
+        const QPointer<ChoiceButton> row = choices[index];
+        const bool granted = !row->IsMuted();
+        EnterRules(deed);
+        if (row && granted) {
+            row->LightUp();
+        }
+    });
+}
+
+GameButton* ActivityWindow::AddBack(const QString& name)
+{
+    back = GameWindow::AddBack(name);
+    return back;
+}
+
+/// The toolkit moves the focus on from a button that is disabled, beneath a box
+/// too, where the window's own focus is not the application's.
+bool ActivityWindow::focusNextPrevChild(bool next)
+{
+    const QWidget* from = focusWidget();
+    if (from != nullptr && from != back && !from->isEnabled() && back != nullptr) {
+        back->setFocus();
+        return true;
     }
-    strip.emplace_back(label, value);
-    value->ShowLabel(label);
+    return GameWindow::focusNextPrevChild(next);
+}
+
+void ActivityWindow::RefreshChoices()
+{
+    refreshDue = false;
+    for (std::size_t i = 0; i < choices.size(); ++i) {
+        const Standing standing = StandingOf(i);
+        choices[i]->SetBadge(standing.badge);
+        choices[i]->Explain(standing.explanation);
+    }
+    Foresee();
+}
+
+void ActivityWindow::Foresee()
+{
+    strip->Foresee(attended < choices.size() ? StandingOf(attended).effects
+                                             : std::vector<Effect>{});
+}
+
+/// Some labels are shown before their fields are stored.
+void ActivityWindow::RefreshSoon()
+{
+    if (!std::exchange(refreshDue, true)) {
+        QMetaObject::invokeMethod(
+            this, [this] { RefreshChoices(); }, Qt::QueuedConnection);
+    }
 }
 
 void ActivityWindow::LabelChanged(Label label)
 {
-    for (const auto& [shown, value] : strip) {
-        if (shown == label) {
-            value->ShowLabel(label);
-        }
-    }
-    if (label == Label::lblMoney) {
-        RefreshChoices();
+    strip->LabelChanged(label);
+    if (label != Label::lblTime && label != Label::lblMessage) {
+        RefreshSoon();
     }
 }
 

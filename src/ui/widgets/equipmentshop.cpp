@@ -1,48 +1,58 @@
 #include "ui/widgets/equipmentshop.h"
 
 #include "core/GameState.h"
-#include "game/entry.h"
 #include "ui/widgets/qtext.h"
 
 namespace torvenhall
 {
 
 EquipmentShop::EquipmentShop(const Plan& plan, const Goods& newGoods, QWidget* parent)
-    : ActivityWindow(plan, parent), goods(newGoods),
-      prices(static_cast<std::size_t>(newGoods.categories))
+    : ActivityWindow(plan, parent), goods(newGoods)
 {
-    std::vector<std::pair<QString, QString>> captions;
-    captions.reserve(prices.size());
-    for (int category = 0; category < goods.categories; ++category) {
-        captions.emplace_back(goods.buttonName + QString::number(category), "%CPUBUTTON%");
+    std::vector<Row> rows;
+    for (std::size_t i = 0; i < goods.glyphs.size(); ++i) {
+        rows.push_back({goods.buttonName + QString::number(i), "%CPUBUTTON%", goods.glyphs[i]});
     }
-    AddChoices({{}, {}, goods.width, 1}, captions);
-    for (int category = 0; category < goods.categories; ++category) {
-        connect(&Choice(static_cast<std::size_t>(category)), &QAbstractButton::clicked, this,
-                [this, category] { EnterRules([buy = goods.buy, category] { buy(category); }); });
+    AddChoices({.caption = {}, .captionName = {}, .width = goods.width, .type = goods.type}, rows);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        SetDeed(i, [buy = goods.buy, category = static_cast<int>(i)] { buy(category); });
     }
     AddBack("Command8");
 }
 
 void EquipmentShop::Load()
 {
-    for (int category = 0; category < goods.categories; ++category) {
-        const auto index = static_cast<std::size_t>(category);
-        const Offer offer = goods.offer(category);
-        Choice(index).ShowText(Text(offer.caption));
-        prices[index] = offer.price;
+    for (std::size_t i = 0; i < Choices(); ++i) {
+        const Offer offer = goods.offer(static_cast<int>(i));
+        Choice(i).ShowText(Text(offer.caption));
         if (!offer.available) { // loading never enables a button again
-            SetUsable(Choice(index), false);
+            SetUsable(Choice(i), false);
         }
     }
     ActivityWindow::Load();
 }
 
-void EquipmentShop::RefreshChoices()
+ActivityWindow::Standing EquipmentShop::StandingOf(std::size_t index) const
 {
-    for (std::size_t i = 0; i < prices.size(); ++i) {
-        Choice(i).SetMuted(prices[i] > 0 && GameState.Money < Int32(prices[i]));
+    const Offer offer = goods.offer(static_cast<int>(index));
+    if (!offer.available) {
+        return {Badge::Best, "Лучше не бывает: " + Text(offer.installed) + " уже стоит.", {}};
     }
+    Standing standing;
+    const QString exchange =
+        "Станет: " + Text(offer.offered) + ". Сейчас: " + Text(offer.installed) + ".";
+    if (offer.price > 0) {
+        standing.effects = {{Label::lblMoney, -offer.price}};
+    }
+    if (offer.refusal) {
+        standing.badge = offer.price > 0 ? Badge::TooDear : Badge::NotQualified;
+        standing.explanation = Text(offer.refusal->text) + '\n' + exchange;
+        return standing;
+    }
+    const int rest = GameState.Money.value() - offer.price;
+    standing.explanation =
+        exchange + (offer.price > 0 ? QString(" Останется $%1.").arg(rest) : " Бесплатно.");
+    return standing;
 }
 
 } // namespace torvenhall

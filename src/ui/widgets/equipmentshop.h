@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "equipment/shops.h"
 #include "ui/widgets/activitywindow.h"
 
@@ -12,9 +14,10 @@ class EquipmentShop : public ActivityWindow
 {
 public:
     struct Goods {
-        const char* buttonName; ///< with the category's number behind it
-        int categories;
-        double width; ///< of the choices, in units
+        const char* buttonName;        ///< with the category's number behind it
+        double width;                  ///< of the list, in units
+        Type type;                     ///< of its rows
+        std::span<const Glyph> glyphs; ///< one for each category
         Offer (*offer)(Int16 category);
         void (*buy)(Int16 category);
     };
@@ -23,11 +26,10 @@ public:
     void Load() override;
 
 protected:
-    void RefreshChoices() override;
+    Standing StandingOf(std::size_t index) const override;
 
 private:
     Goods goods;
-    std::vector<int> prices;
 };
 
 } // namespace torvenhall

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "ui/widgets/face.h"
 #include "ui/widgets/fittext.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/theme.h"
@@ -53,8 +54,13 @@ void GameButton::ShowText(const QString& caption)
 {
     if (text() != caption) {
         setText(caption);
-        setToolTip(TextFits() ? QString() : caption);
+        RefreshTip();
     }
+}
+
+void GameButton::RefreshTip()
+{
+    setToolTip(TextFits() ? QString() : text());
 }
 
 bool GameButton::TextFits() const
@@ -92,48 +98,9 @@ QColor GameButton::Ink() const
     return underMouse() || isDown() ? colour::LightCyan : colour::Text;
 }
 
-void GameButton::PaintFace(QPainter& painter) const
+void GameButton::PaintGround(QPainter& painter) const
 {
-    const double width = std::max(1.0, UnitScale());
-    const QRectF face = QRectF(rect()).adjusted(width / 2, width / 2, -width / 2, -width / 2);
-    const double radius = Px(4);
-    const bool lit = isEnabled() && underMouse() && !isDown();
-
-    QLinearGradient fill(face.topLeft(), face.bottomLeft());
-    QColor edge(140, 214, 226, 96);
-    if (!isEnabled()) {
-        fill.setColorAt(0, QColor(14, 19, 27, 200));
-        fill.setColorAt(1, QColor(10, 15, 22, 200));
-        edge.setAlpha(34);
-    } else if (isDown()) {
-        fill.setColorAt(0, QColor(9, 40, 50, 245));
-        fill.setColorAt(1, QColor(15, 58, 70, 245));
-        edge = colour::LightCyan;
-    } else if (muted) {
-        fill.setColorAt(0, QColor(26, 30, 38, lit ? 240 : 205));
-        fill.setColorAt(1, QColor(17, 20, 27, lit ? 240 : 205));
-        edge = QColor(150, 160, 168, lit ? 150 : 70);
-    } else {
-        fill.setColorAt(0, lit ? QColor(44, 88, 104, 240) : QColor(34, 52, 70, 228));
-        fill.setColorAt(1, lit ? QColor(24, 58, 72, 240) : QColor(17, 28, 41, 228));
-        edge.setAlpha(lit ? 210 : 104);
-    }
-    painter.setBrush(fill);
-    painter.setPen(QPen(edge, width));
-    painter.drawRoundedRect(face, radius, radius);
-
-    if (isEnabled() && !isDown() && !muted) { // the lamp's light on the upper edge
-        painter.setPen(QPen(QColor(255, 255, 255, lit ? 60 : 30), width));
-        painter.drawLine(face.topLeft() + QPointF(radius, width),
-                         face.topRight() + QPointF(-radius, width));
-    }
-    if (hasFocus()) {
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(colour::Warm, width * 1.4));
-        const double inset = width * 1.2;
-        painter.drawRoundedRect(face.adjusted(inset, inset, -inset, -inset), radius * 0.7,
-                                radius * 0.7);
-    }
+    PaintFace(painter, rect(), {isEnabled(), isDown(), underMouse(), muted, hasFocus()});
 }
 
 void GameButton::PaintStacked(QPainter& painter) const
@@ -149,7 +116,7 @@ void GameButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    PaintFace(painter);
+    PaintGround(painter);
 
     painter.setFont(font());
     painter.setPen(Ink());
@@ -211,7 +178,7 @@ void GameButton::leaveEvent(QEvent* event)
 void GameButton::resizeEvent(QResizeEvent* event)
 {
     QPushButton::resizeEvent(event);
-    setToolTip(TextFits() ? QString() : text());
+    RefreshTip();
 }
 
 } // namespace torvenhall

@@ -39,11 +39,16 @@ protected:
     void leaveEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
-private:
-    QRectF TextPlace() const;
-    void PaintFace(QPainter& painter) const;
-    void PaintStacked(QPainter& painter) const;
+    /// Where the caption has room.
+    virtual QRectF TextPlace() const;
+    /// What the tooltip says; by default a caption that does not fit.
+    virtual void RefreshTip();
+    void PaintGround(QPainter& painter) const;
     QColor Ink() const;
+    Glyph Sign() const { return glyph; }
+
+private:
+    void PaintStacked(QPainter& painter) const;
 
     Glyph glyph = Glyph::None;
     Qt::Alignment alignment = Qt::AlignCenter;

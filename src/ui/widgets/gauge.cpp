@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "ui/widgets/metrics.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
@@ -11,6 +12,10 @@ namespace torvenhall
 
 namespace
 {
+
+constexpr QColor Track(255, 255, 255, 40);
+// A change too small for the bar is still seen.
+constexpr double LeastGhost = 2.5;
 
 QColor Ink(const Gauge::Reading& shown)
 {
@@ -28,10 +33,18 @@ Gauge::Gauge(Kind newKind, Reading (*newReading)(), QWidget* parent)
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
+void Gauge::SetGhost(double newGhost)
+{
+    if (ghost != newGhost) {
+        ghost = newGhost;
+        update();
+    }
+}
+
 void Gauge::PaintBar(QPainter& painter, const QColor& ink, double from, double to) const
 {
     const double radius = height() / 2.0;
-    painter.setBrush(QColor(255, 255, 255, 30));
+    painter.setBrush(Track);
     painter.drawRoundedRect(rect(), radius, radius);
     const QRectF bar(std::min(from, to) * width(), 0, std::abs(to - from) * width(), height());
     if (bar.width() > 0) {
@@ -43,13 +56,34 @@ void Gauge::PaintBar(QPainter& painter, const QColor& ink, double from, double t
     }
 }
 
+/// From the present end of the bar to the one that it would have.
+void Gauge::PaintGhost(QPainter& painter, double from, double to) const
+{
+    if (ghost == 0) {
+        return;
+    }
+    const double whole = width();
+    const double start = std::clamp(from, 0.0, 1.0) * whole;
+    const double end = std::clamp(to, 0.0, 1.0) * whole;
+    const double room = std::max(std::abs(end - start), 1.0 * Px(LeastGhost));
+    QRectF bar(ghost > 0 ? start : start - room, 0, room, height());
+    bar.moveLeft(std::clamp(bar.left(), 0.0, whole - room));
+    const double line = std::max(1.0, UnitScale());
+    painter.setBrush(ghost > 0 ? colour::LightCyan : colour::Loss);
+    painter.setPen(QPen(colour::PanelDeep, line)); // apart from the bar itself
+    painter.drawRoundedRect(bar, height() / 3.0, height() / 3.0);
+    painter.setPen(Qt::NoPen);
+}
+
 void Gauge::PaintSteps(QPainter& painter, const Reading& shown) const
 {
     const int steps = std::max(1, shown.steps);
     const double gap = height() * 0.6;
     const double step = (width() - gap * (steps - 1)) / steps;
     for (int i = 0; i < steps; ++i) {
-        painter.setBrush(i < shown.share * steps - 0.5 ? Ink(shown) : QColor(255, 255, 255, 30));
+        const bool reached = i < shown.share * steps - 0.5;
+        const bool comes = !reached && i < (shown.share + ghost) * steps - 0.5;
+        painter.setBrush(reached ? Ink(shown) : comes ? colour::LightCyan : Track);
         painter.drawRoundedRect(QRectF(i * (step + gap), 0, step, height()), height() / 3.0,
                                 height() / 3.0);
     }
@@ -65,11 +99,16 @@ void Gauge::paintEvent(QPaintEvent*)
     switch (kind) {
     case Kind::Share:
         PaintBar(painter, Ink(shown), 0, std::max(share, 0.0));
+        PaintGhost(painter, shown.share, shown.share + ghost);
         break;
-    case Kind::AroundZero:
+    case Kind::AroundZero: {
         PaintBar(painter, Ink(shown), 0.5, 0.5 + share / 2);
-        painter.fillRect(QRectF(width() / 2.0 - 0.5, 0, 1, height()), QColor(255, 255, 255, 150));
+        PaintGhost(painter, 0.5 + shown.share / 2, 0.5 + (shown.share + ghost) / 2);
+        const double line = std::max(1.0, UnitScale());
+        painter.fillRect(QRectF((width() - line) / 2, 0, line, height()),
+                         QColor(255, 255, 255, 190));
         break;
+    }
     case Kind::Steps:
         PaintSteps(painter, shown);
         break;

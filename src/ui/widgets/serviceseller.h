@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "activities/services.h"
 #include "ui/widgets/activitywindow.h"
 
@@ -10,10 +12,17 @@ namespace torvenhall
 class ServiceSeller : public ActivityWindow
 {
 public:
-    ServiceSeller(const char* name, const ServiceWindow& newTable, Sign sign, QWidget* parent);
+    /// How the window looks: its sign, the width of its list, a glyph a row.
+    struct Look {
+        Sign sign;
+        double width;
+        std::span<const Glyph> glyphs;
+    };
+    ServiceSeller(const char* name, const ServiceWindow& newTable, const Look& look,
+                  QWidget* parent);
 
 protected:
-    void RefreshChoices() override;
+    Standing StandingOf(std::size_t index) const override;
 
 private:
     const ServiceWindow& table;
