@@ -8,60 +8,60 @@ namespace torvenhall
 // What each row of each place is, in the order of the rows.
 
 inline constexpr Glyph HardwareGlyphs[]{
-    Glyph::Chip,     // processor
-    Glyph::Chip,     // memory
-    Glyph::Screen,   // video card
-    Glyph::Diskette, // hard disk
-    Glyph::Diskette, // disc drive
-    Glyph::Phone,    // modem
-    Glyph::Play,     // sound
-    Glyph::Screen,   // scanner
-    Glyph::Upload,   // printer
+    Glyph::Chip,      // processor
+    Glyph::Memory,    // memory
+    Glyph::VideoCard, // video card
+    Glyph::HardDisk,  // hard disk
+    Glyph::Disc,      // disc drive
+    Glyph::Modem,     // modem
+    Glyph::Speaker,   // sound
+    Glyph::Scanner,   // scanner
+    Glyph::Printer,   // printer
 };
 inline constexpr Glyph SoftwareGlyphs[]{
-    Glyph::Screen,    // operating system
-    Glyph::Cross,     // antivirus
-    Glyph::Book,      // programming
-    Glyph::Briefcase, // graphics
-    Glyph::Globe,     // browser
-    Glyph::Dice,      // games
+    Glyph::Window,  // operating system
+    Glyph::Shield,  // antivirus
+    Glyph::Code,    // programming
+    Glyph::Palette, // graphics
+    Glyph::Globe,   // browser
+    Glyph::Gamepad, // games
 };
 inline constexpr Glyph EntertainmentGlyphs[]{
-    Glyph::Dice,     // casino
-    Glyph::Basket,   // restaurant
-    Glyph::Upload,   // sauna
-    Glyph::Minimise, // five minutes' rest
-    Glyph::Play,     // break
+    Glyph::Dice,  // casino
+    Glyph::Glass, // restaurant
+    Glyph::Steam, // sauna
+    Glyph::Bench, // five minutes' rest
+    Glyph::Cup,   // break
 };
 inline constexpr Glyph HospitalGlyphs[]{
-    Glyph::Cross,    // the full course
-    Glyph::Cross,    // medicines
-    Glyph::Cross,    // a dislocation
-    Glyph::Question, // an examination
-    Glyph::Cross,    // a birth
-    Glyph::Download, // vodka
-    Glyph::Download, // spirit
+    Glyph::Bed,         // the full course
+    Glyph::Pills,       // medicines
+    Glyph::Bandage,     // a dislocation
+    Glyph::Stethoscope, // an examination
+    Glyph::Cradle,      // a birth
+    Glyph::Bottle,      // vodka
+    Glyph::Flask,       // spirit
 };
 inline constexpr Glyph FoodGlyphs[]{
-    Glyph::Basket, // a burger
-    Glyph::Basket, // a meal with the children
-    Glyph::Basket, // chocolate
-    Glyph::Basket, // fried eggs
-    Glyph::Basket, // a proper meal
+    Glyph::Burger,    // a burger
+    Glyph::Kids,      // a meal with the children
+    Glyph::Chocolate, // chocolate
+    Glyph::Egg,       // fried eggs
+    Glyph::Plate,     // a proper meal
 };
 inline constexpr Glyph JobGlyphs[]{
-    Glyph::Briefcase, // caretaker
-    Glyph::Briefcase, // plumber
-    Glyph::Briefcase, // engineer
-    Glyph::Briefcase, // manager
-    Glyph::Briefcase, // designer
-    Glyph::Briefcase, // architect
-    Glyph::Briefcase, // bookkeeper
-    Glyph::Screen,    // programmer
-    Glyph::Screen,    // administrator
-    Glyph::Screen,    // security expert
-    Glyph::Screen,    // hacker
-    Glyph::Screen,    // boss
+    Glyph::Broom,   // caretaker
+    Glyph::Wrench,  // plumber
+    Glyph::Gear,    // engineer
+    Glyph::Chart,   // manager
+    Glyph::Palette, // designer
+    Glyph::Compass, // architect
+    Glyph::Abacus,  // bookkeeper
+    Glyph::Code,    // programmer
+    Glyph::Server,  // administrator
+    Glyph::Shield,  // security expert
+    Glyph::Mask,    // hacker
+    Glyph::Crown,   // boss
 };
 inline constexpr Glyph SchoolGlyph = Glyph::Book;
 inline constexpr Glyph CoursesGlyph = Glyph::Screen;

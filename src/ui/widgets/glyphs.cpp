@@ -6,29 +6,17 @@
 
 #include <iterator>
 
+#include "ui/widgets/glyphstrokes.h"
+
 namespace torvenhall
 {
 
 namespace
 {
 
-/// What a drawing is made of, on a grid of 16 by 16.
-struct Strokes {
-    QPainterPath lines; ///< drawn with the pen
-    QPainterPath solid; ///< filled
-
-    void Line(double x1, double y1, double x2, double y2)
-    {
-        lines.moveTo(x1, y1);
-        lines.lineTo(x2, y2);
-    }
-    void Through(std::initializer_list<QPointF> points) { lines.addPolygon(QPolygonF(points)); }
-    void Dot(double x, double y, double radius) { solid.addEllipse(QPointF(x, y), radius, radius); }
-};
-
 void Chip(Strokes& draw)
 {
-    draw.lines.addRoundedRect(3.5, 3.5, 9, 9, 1, 1);
+    draw.Box(3.5, 3.5, 9, 9, 1);
     draw.lines.addRect(6, 6, 4, 4);
     for (const double at : {5.5, 8.0, 10.5}) {
         draw.Line(at, 1, at, 3.5);
@@ -40,14 +28,14 @@ void Chip(Strokes& draw)
 
 void Diskette(Strokes& draw)
 {
-    draw.Through({{2, 2}, {11.5, 2}, {14, 4.5}, {14, 14}, {2, 14}, {2, 2}});
+    draw.Body({{2, 2}, {11.5, 2}, {14, 4.5}, {14, 14}, {2, 14}, {2, 2}});
     draw.Through({{4.5, 14}, {4.5, 9}, {11.5, 9}, {11.5, 14}});
     draw.Through({{5, 2}, {5, 5.5}, {10.5, 5.5}, {10.5, 2}});
 }
 
 void Dice(Strokes& draw)
 {
-    draw.lines.addRoundedRect(2, 2, 12, 12, 2.5, 2.5);
+    draw.Box(2, 2, 12, 12, 2.5);
     for (const QPointF at :
          {QPointF(5, 5), QPointF(11, 5), QPointF(8, 8), QPointF(5, 11), QPointF(11, 11)}) {
         draw.Dot(at.x(), at.y(), 1.15);
@@ -56,19 +44,19 @@ void Dice(Strokes& draw)
 
 void Cross(Strokes& draw)
 {
-    draw.Through({{6, 2},
-                  {10, 2},
-                  {10, 6},
-                  {14, 6},
-                  {14, 10},
-                  {10, 10},
-                  {10, 14},
-                  {6, 14},
-                  {6, 10},
-                  {2, 10},
-                  {2, 6},
-                  {6, 6},
-                  {6, 2}});
+    draw.Body({{6, 2},
+               {10, 2},
+               {10, 6},
+               {14, 6},
+               {14, 10},
+               {10, 10},
+               {10, 14},
+               {6, 14},
+               {6, 10},
+               {2, 10},
+               {2, 6},
+               {6, 6},
+               {6, 2}});
 }
 
 void Basket(Strokes& draw)
@@ -80,7 +68,7 @@ void Basket(Strokes& draw)
 
 void Briefcase(Strokes& draw)
 {
-    draw.lines.addRoundedRect(1.5, 5, 13, 9, 1.2, 1.2);
+    draw.Box(1.5, 5, 13, 9, 1.2);
     draw.Through({{5.5, 5}, {5.5, 2.5}, {10.5, 2.5}, {10.5, 5}});
     draw.Line(1.5, 9, 14.5, 9);
     draw.Line(8, 8, 8, 10.2);
@@ -88,23 +76,23 @@ void Briefcase(Strokes& draw)
 
 void Book(Strokes& draw)
 {
-    draw.Through({{8, 4},
-                  {5, 2.8},
-                  {1.5, 3},
-                  {1.5, 13},
-                  {5, 12.8},
-                  {8, 14},
-                  {11, 12.8},
-                  {14.5, 13},
-                  {14.5, 3},
-                  {11, 2.8},
-                  {8, 4},
-                  {8, 14}});
+    draw.Body({{8, 4},
+               {5, 2.8},
+               {1.5, 3},
+               {1.5, 13},
+               {5, 12.8},
+               {8, 14},
+               {11, 12.8},
+               {14.5, 13},
+               {14.5, 3},
+               {11, 2.8},
+               {8, 4},
+               {8, 14}});
 }
 
 void Globe(Strokes& draw)
 {
-    draw.lines.addEllipse(QPointF(8, 8), 6.5, 6.5);
+    draw.Disc(8, 8, 6.5, 6.5);
     draw.lines.addEllipse(QPointF(8, 8), 3, 6.5);
     draw.Line(1.5, 8, 14.5, 8);
 }
@@ -127,7 +115,7 @@ void Phone(Strokes& draw)
 
 void Screen(Strokes& draw)
 {
-    draw.lines.addRoundedRect(1.5, 2.5, 13, 9, 1, 1);
+    draw.Box(1.5, 2.5, 13, 9, 1);
     draw.Line(5, 14, 11, 14);
     draw.Line(8, 11.5, 8, 14);
 }
@@ -212,14 +200,19 @@ void Stop(Strokes& draw)
 }
 
 /// In the order of Glyph, without None.
-constexpr void (*Drawings[])(Strokes&) = {
-    Chip,     Diskette, Dice,        Cross,       Basket,   Briefcase, Book,
-    Globe,    Back,     Play,        Minimise,    Phone,    HangUp,    Screen,
-    Download, Upload,   Information, Exclamation, Question, Stop,
+constexpr Drawing Drawings[] = {
+    Chip,        Diskette,    Dice,     Cross,   Basket, Briefcase, Book,      Globe,
+    Back,        Play,        Minimise, Phone,   HangUp, Screen,    Download,  Upload,
+    Information, Exclamation, Question, Stop,    Memory, VideoCard, HardDisk,  Disc,
+    Modem,       Speaker,     Scanner,  Printer, Window, Shield,    Code,      Palette,
+    Gamepad,     Glass,       Steam,    Bench,   Cup,    Bed,       Pills,     Bandage,
+    Stethoscope, Cradle,      Bottle,   Flask,   Burger, Kids,      Chocolate, Egg,
+    Plate,       Broom,       Wrench,   Gear,    Chart,  Compass,   Abacus,    Server,
+    Mask,        Crown,
 };
-static_assert(std::size(Drawings) == static_cast<std::size_t>(Glyph::Stop));
+static_assert(std::size(Drawings) == static_cast<std::size_t>(Glyph::Crown));
 
-Strokes Drawing(Glyph glyph)
+Strokes StrokesOf(Glyph glyph)
 {
     Strokes draw;
     if (glyph != Glyph::None) {
@@ -232,13 +225,16 @@ Strokes Drawing(Glyph glyph)
 
 void DrawGlyph(QPainter& painter, Glyph glyph, const QRectF& square, const QColor& ink)
 {
-    const Strokes draw = Drawing(glyph);
+    const Strokes draw = StrokesOf(glyph);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(square.topLeft());
     painter.scale(square.width() / 16, square.height() / 16);
     painter.setPen(QPen(ink, 1.25, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
+    QColor breath = ink;
+    breath.setAlphaF(0.22F * breath.alphaF());
+    painter.fillPath(draw.tint, breath);
     painter.drawPath(draw.lines);
     painter.fillPath(draw.solid, ink);
     painter.restore();

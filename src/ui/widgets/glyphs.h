@@ -9,7 +9,7 @@ class QPainter;
 namespace torvenhall
 {
 
-/// The small line drawings of the buttons and boxes.
+/// The small line drawings of the buttons, rows and boxes.
 enum class Glyph : unsigned char {
     None,
     Chip,
@@ -32,6 +32,45 @@ enum class Glyph : unsigned char {
     Exclamation,
     Question,
     Stop,
+    // What rows of choices offer.
+    Memory,
+    VideoCard,
+    HardDisk,
+    Disc,
+    Modem,
+    Speaker,
+    Scanner,
+    Printer,
+    Window,
+    Shield,
+    Code,
+    Palette,
+    Gamepad,
+    Glass,
+    Steam,
+    Bench,
+    Cup,
+    Bed,
+    Pills,
+    Bandage,
+    Stethoscope,
+    Cradle,
+    Bottle,
+    Flask,
+    Burger,
+    Kids,
+    Chocolate,
+    Egg,
+    Plate,
+    Broom,
+    Wrench,
+    Gear,
+    Chart,
+    Compass,
+    Abacus,
+    Server,
+    Mask,
+    Crown,
 };
 
 /// Draws a glyph into a square.

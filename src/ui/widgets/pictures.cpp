@@ -48,6 +48,7 @@ QPixmap Decode(std::string_view name, QSize wanted, double pixelRatio)
     const bool small =
         reader.size().width() < pixels.width() || reader.size().height() < pixels.height();
     if (const QByteArray large = Carried(Large, name); small && !large.isEmpty()) {
+        buffer.close(); // the reader has opened it
         buffer.setData(large);
         reader.setDevice(&buffer);
         reader.setFormat("jpeg");
