@@ -9,6 +9,7 @@
 #include "core/waits.h"
 #include "support/play.h"
 #include "ui/widgets/caption.h"
+#include "ui/widgets/gamebutton.h"
 #include "ui/widgets/gauge.h"
 #include "ui/widgets/quietlife.h"
 
@@ -97,6 +98,18 @@ TEST_F(Rows, ARowShowsItsEffectBeforehandAndAPurchaseMovesOnlyForAMoment)
         EXPECT_TRUE(Until([] { return !Moves(); }));
     }
     SetStillLife(false);
+}
+
+TEST_F(Rows, AnOpenWindowFollowsWhatTheGameAllows)
+{
+    Click("frmMain", "cmdWork");
+    auto& engineer = dynamic_cast<GameButton&>(Control("frmWork", "cmdWork2"));
+    EXPECT_TRUE(engineer.IsMuted());
+    SetIntelligence(35);
+    SetEducation(2); // is shown before it is stored
+    Settle();
+    EXPECT_FALSE(engineer.IsMuted());
+    EXPECT_EQ(engineer.accessibleDescription(), "$20 в день, сейчас $0.");
 }
 
 TEST_F(Rows, AFinishedCourseBeneathABoxHandsTheFocusToNoOtherButton)

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <cmath>
 #include <numbers>
 
 #include "ui/widgets/colours.h"

@@ -6,6 +6,8 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
+#include <algorithm>
+
 #include "ui/widgets/colours.h"
 #include "ui/widgets/fittext.h"
 #include "ui/widgets/placing.h"
@@ -118,11 +120,14 @@ void ChoiceButton::PaintPresent(QPainter& painter) const
 
 void ChoiceButton::PaintGlow(QPainter& painter) const
 {
+    const double line = std::max(1.0, 2 * UnitScale());
     QColor light = colour::Gain;
-    light.setAlphaF(static_cast<float>(0.5 * glow.Left()));
-    painter.setPen(Qt::NoPen);
+    light.setAlphaF(static_cast<float>(0.85 * glow.Left()));
+    painter.setPen(QPen(light, line));
+    light.setAlphaF(static_cast<float>(0.3 * glow.Left())); // the caption stays readable on it
     painter.setBrush(light);
-    painter.drawRoundedRect(rect(), Px(5), Px(5));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2),
+                            Px(5), Px(5));
 }
 
 void ChoiceButton::PaintCaption(QPainter& painter) const
@@ -152,6 +157,9 @@ void ChoiceButton::paintEvent(QPaintEvent*)
     if (badge == Badge::Present) {
         PaintPresent(painter);
     }
+    if (glow.Left() > 0) {
+        PaintGlow(painter);
+    }
     if (isDown()) {
         painter.translate(0, Px(1));
     }
@@ -163,9 +171,6 @@ void ChoiceButton::paintEvent(QPaintEvent*)
     DrawBadge(painter, badge,
               {width() - Px(BadgeRight + BadgeSize) * 1.0, middle - Px(BadgeSize) / 2.0,
                Px(BadgeSize) * 1.0, Px(BadgeSize) * 1.0});
-    if (glow.Left() > 0) {
-        PaintGlow(painter);
-    }
 }
 
 void ChoiceButton::TellAttention(bool attended)

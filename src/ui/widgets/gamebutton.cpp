@@ -93,7 +93,7 @@ QColor GameButton::Ink() const
         return colour::Faint;
     }
     if (muted) {
-        return {150, 163, 170};
+        return underMouse() ? QColor(188, 200, 207) : QColor(150, 163, 170);
     }
     return underMouse() || isDown() ? colour::LightCyan : colour::Text;
 }
