@@ -115,6 +115,9 @@ void GameWindow::closeEvent(QCloseEvent* event)
 
 void GameWindow::showEvent(QShowEvent* event)
 {
+    if (scene->Moves() && !quietLife) {
+        quietLife = new QuietLife(this, [this] { scene->Step(); });
+    }
     QDialog::showEvent(event);
     if (QWidget* first = focusWidget(); !first) {
         focusNextChild();

@@ -8,6 +8,7 @@
 #include "core/labels.h"
 #include "ui/widgets/gamebutton.h"
 #include "ui/widgets/gamelabel.h"
+#include "ui/widgets/quietlife.h"
 #include "ui/widgets/scene.h"
 
 namespace torvenhall
@@ -63,6 +64,7 @@ protected:
 
 private:
     GameButton* back = nullptr;
+    QuietLife* quietLife = nullptr; ///< once something in the picture moves
     const QWidget* focusTakenFrom = nullptr;
     Scene* scene;
     double widthUnits, heightUnits;

@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "ui/widgets/face.h"
+#include "ui/widgets/flickers.h"
 #include "ui/widgets/pictures.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/theme.h"
@@ -47,6 +48,12 @@ void Scene::ShowPicture(std::string_view name)
 {
     if (picture != name) {
         picture = name;
+        flickers.clear();
+        for (const Flicker& flicker : Flickers) {
+            if (flicker.picture == name) {
+                flickers.push_back(flicker.place);
+            }
+        }
         DrawAnew();
     }
 }
@@ -98,11 +105,6 @@ void Scene::Compose()
                        plate.kind != Panel::Bare);
         }
     }
-}
-
-void Scene::AddFlicker(const QRectF& place)
-{
-    flickers.push_back(place);
 }
 
 void Scene::Step()

@@ -32,8 +32,8 @@ public:
     void ShowPicture(std::string_view name);
     /// Adds a panel; place in units.
     void AddPanel(const QRectF& place, Panel kind = Panel::Plain);
-    /// A lamp or tube of the picture that stutters now and then; place in units.
-    void AddFlicker(const QRectF& place);
+    /// Whether anything in the picture moves.
+    bool Moves() const { return !flickers.empty(); }
     /// The next step of the quiet life.
     virtual void Step();
     /// Adds what a slogan stands on.
