@@ -111,8 +111,8 @@ void ChoiceButton::PaintPresent(QPainter& painter) const
     painter.save();
     painter.setClipPath(shape);
     QLinearGradient ground(rect().topLeft(), rect().topRight());
-    ground.setColorAt(0, QColor(255, 190, 104, 72));
-    ground.setColorAt(1, QColor(255, 190, 104, 22));
+    ground.setColorAt(0, QColor(255, 190, 104, 48));
+    ground.setColorAt(1, QColor(255, 190, 104, 8));
     painter.fillRect(rect(), ground);
     painter.fillRect(QRectF(0, 0, Px(4), height()), colour::Warm);
     painter.restore();
