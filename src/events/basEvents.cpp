@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "activities/education.h"
 #include "core/basGame.h"
 #include "core/changes.h"
 #include "core/draw.h"
@@ -27,8 +28,8 @@ void MonthOfCourses()
     if (GameState.AttendCourses != True || GameState.Education >= TopRank) {
         return;
     }
-    Apply({Stat::Money, -75});
-    SetEducation(GameState.Education + 1);
+    Apply({Stat::Money, -CoursesProgramme.price});
+    SetEducation(GameState.Education + CoursesProgramme.gain);
     if (GameState.Education == TopRank) {
         MsgBox("Вы прошли компьютерные курсы!", "Доцент", Icon::Information);
         GameState.AttendCourses = False;
@@ -45,8 +46,8 @@ void MonthOfSchool()
     if (GameState.AttendSchool != True || GameState.Intelligence >= FullIntelligence) {
         return;
     }
-    Apply({Stat::Money, -50});
-    SetIntelligence(GameState.Intelligence + 10);
+    Apply({Stat::Money, -SchoolProgramme.price});
+    SetIntelligence(GameState.Intelligence + SchoolProgramme.gain);
     if (GameState.Intelligence == FullIntelligence) {
         Windows().DisableButton(window::frmEducation, "Command1");
         MsgBox("Поздравляем! Вы имеете два высших образования!!!", "", Icon::Information);

@@ -12,6 +12,7 @@
 #include "ui/widgets/gamebutton.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
+#include "ui/widgets/readings.h"
 #include "ui/widgets/terminallabel.h"
 #include "ui/widgets/theme.h"
 #include "ui/windows.h"
@@ -54,30 +55,10 @@ constexpr RowText SoftwareRows[] = {
     {"Прочее:", Label::lblOther},
 };
 
-Gauge::Reading Money()
-{
-    const double target = GameState.WinMoney.value();
-    return {.share = target > 0 ? GameState.Money.value() / target : 0};
-}
-
-Gauge::Reading Rank()
-{
-    const int rank = GameState.Education.value();
-    const bool hasWord = !ShowStatus(rank).empty();
-    return {.share = hasWord ? static_cast<double>(rank) / TopRank : 0, .steps = TopRank};
-}
-
 template <Int16 Game::*field>
 int Value()
 {
     return (GameState.*field).value();
-}
-
-template <Int16 Game::*field, Label label>
-Gauge::Reading Percent()
-{
-    return {.share = (GameState.*field).value() / 100.0,
-            .danger = ShownAt(label).colour == TextColour::Red};
 }
 
 } // namespace
@@ -138,17 +119,17 @@ void frmMain::BuildStatistics()
     using enum Gauge::Kind;
     // clang-format off
     const Tile statistics[]{
-        {"Бюджет", Label::lblMoney, 80, Share, Money, [] { return GameState.Money.value(); }},
-        {"Статус", Label::lblStatus, 68, Steps, Rank, Value<&Game::Education>},
+        {"Бюджет", Label::lblMoney, 80, Share, MoneyReading, [] { return GameState.Money.value(); }},
+        {"Статус", Label::lblStatus, 68, Steps, RankReading, Value<&Game::Education>},
         {"Семья", Label::lblFamily, 70},
         {"Настроение", Label::lblHappy, 65, AroundZero,
-         Percent<&Game::Happy, Label::lblHappy>, Value<&Game::Happy>},
+         PercentReading<&Game::Happy, Label::lblHappy>, Value<&Game::Happy>},
         {"Сытость", Label::lblEat, 65, AroundZero,
-         Percent<&Game::EatLevel, Label::lblEat>, Value<&Game::EatLevel>},
+         PercentReading<&Game::EatLevel, Label::lblEat>, Value<&Game::EatLevel>},
         {"Здоровье", Label::lblHealth, 65, AroundZero,
-         Percent<&Game::Health, Label::lblHealth>, Value<&Game::Health>},
+         PercentReading<&Game::Health, Label::lblHealth>, Value<&Game::Health>},
         {"Образование", Label::lblEducation, 65, Share,
-         Percent<&Game::Intelligence, Label::lblEducation>, Value<&Game::Intelligence>},
+         PercentReading<&Game::Intelligence, Label::lblEducation>, Value<&Game::Intelligence>},
     };
     // clang-format on
     double left = Left;

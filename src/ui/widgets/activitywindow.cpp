@@ -89,24 +89,8 @@ void ActivityWindow::SetDeed(std::size_t index, std::function<void()> deed)
     });
 }
 
-GameButton* ActivityWindow::AddBack(const QString& name)
-{
-    back = GameWindow::AddBack(name);
-    return back;
-}
-
 /// The toolkit moves the focus on from a button that is disabled, beneath a box
 /// too, where the window's own focus is not the application's.
-bool ActivityWindow::focusNextPrevChild(bool next)
-{
-    const QWidget* from = focusWidget();
-    if (from != nullptr && from != back && !from->isEnabled() && back != nullptr) {
-        back->setFocus();
-        return true;
-    }
-    return GameWindow::focusNextPrevChild(next);
-}
-
 void ActivityWindow::RefreshChoices()
 {
     refreshDue = false;

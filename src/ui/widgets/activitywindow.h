@@ -63,10 +63,6 @@ protected:
     /// Asked at every loading and after every change of what the main window
     /// shows.
     virtual Standing StandingOf(std::size_t /*index*/) const { return {}; }
-    /// "Назад", to which the focus of a disabled choice goes.
-    GameButton* AddBack(const QString& name);
-
-    bool focusNextPrevChild(bool next) override;
 
 private:
     void RefreshChoices();
@@ -78,7 +74,6 @@ private:
     std::string_view pictureKey;
     double height;
     Strip* strip;
-    GameButton* back = nullptr;
     std::vector<ChoiceButton*> choices;
     std::size_t attended = Nobody; ///< the choice that the player has turned to
     bool refreshDue = false;

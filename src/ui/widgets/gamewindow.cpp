@@ -79,7 +79,8 @@ GameButton* GameWindow::AddBack(const QString& name, const QString& caption)
 
 void GameWindow::SetUsable(QWidget& control, bool usable)
 {
-    if (!usable && back && control.hasFocus()) {
+    // Beneath a box nothing has the focus; what will have it again counts.
+    if (!usable && back && focusWidget() == &control) {
         back->setFocus();
         focusTakenFrom = &control;
     }
