@@ -12,7 +12,7 @@ namespace
 
 QString OfMoney()
 {
-    const int missing = GameState.WinMoney.value() - GameState.Money.value();
+    const auto missing = qint64{GameState.WinMoney.value()} - GameState.Money.value();
     return QString("для победы нужно больше $%1%2")
         .arg(GameState.WinMoney.value())
         .arg(missing >= 0 ? QString(", не хватает $%1").arg(missing + 1) : ", хватает");

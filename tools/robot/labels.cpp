@@ -134,8 +134,10 @@ QString WrongLabel(const QWidget& mainWindow)
         const QString name = Text(LabelNames[label]);
         const auto* control = dynamic_cast<GameLabel*>(mainWindow.findChild<QWidget*>(name));
         const bool red = ShownAt(label).colour == TextColour::Red;
+        const bool nothing = ShownAt(label).text == GetHardwareName(0, 0);
+        const QColor wanted = red ? colour::Danger : nothing ? colour::Faint : colour::LightCyan;
         if (!control || control->text() != Text(ShownAt(label).text) ||
-            control->Colour() != (red ? colour::Danger : colour::LightCyan)) {
+            control->Colour() != wanted) {
             return name + " does not show what the rules hold: " + Text(ShownAt(label).text);
         }
     }
