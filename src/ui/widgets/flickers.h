@@ -18,6 +18,8 @@ inline constexpr Flicker Flickers[]{
     {"SOFTPICTURE", {306, 54, 246, 22}}, // the tube
     {"WORKPICTURE", {366, 64, 104, 36}}, // the number
     {"EDUCPICTURE", {320, 72, 84, 34}},  // the lamp over the blackboard
+    {"SHOPPICTURE", {316, 62, 72, 50}},  // the lamp over the counter
+    {"HAPPYPICTURE", {294, 64, 38, 40}}, // the heart of the four suits
     {"NETPICTURE", {590, 254, 30, 34}},  // the bulb of the spider's workplace
     {"TITLEPICTURE", {311, 22, 46, 60}}, // a letter that is half dead
 };
