@@ -6,25 +6,28 @@
 #include <QDir>
 #include <QEnterEvent>
 #include <QEventLoop>
+#include <QHelpEvent>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QTimer>
+#include <QToolTip>
 
-#include "activities/work.h"
+#include <algorithm>
+
+#include "app/samplelives.h"
 #include "core/basGame.h"
 #include "core/shown.h"
-#include "core/timelabel.h"
 #include "core/waits.h"
-#include "equipment/basEquipment.h"
-#include "equipment/catalogue.h"
-#include "events/family.h"
 #include "game/clock.h"
 #include "game/entry.h"
 #include "network/network.h"
 #include "ui/QtFrontEnd.h"
 #include "ui/frmLang.h"
 #include "ui/frmMain.h"
+#include "ui/widgets/choicebutton.h"
+#include "ui/widgets/colours.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/scale.h"
 #include "ui/windows.h"
@@ -36,64 +39,6 @@ namespace
 {
 
 constexpr int SettleMilliseconds = 60;
-
-constexpr std::string_view LongMessage =
-    "Сообщение от майора милиции Treivaib: Сынок, ты попал на такие налоги!!!! Ты вчера вывел свою "
-    "жену под Ниогарский Водопад, т.к. она тебе изменила, но чтобы ты её не убил вооще, она тебе "
-    "дала $150 (какая жена твоя богатая)!!!";
-
-/// A life to be photographed in the main window.
-struct Life {
-    const char* name;
-    int money, happy, eat, health, intelligence, rank, job;
-    bool married;
-    int sons, daughters;
-    int hardware, software; ///< how many of each list are there, at most
-    int day, month, year, hour;
-    std::string_view message;
-};
-
-constexpr Life Lives[]{
-    {"beginner", 15, 25, 75, 40, 20, 1, 0, false, 0, 0, 0, 0, 1, 1, 2001, 9, ""},
-    {"programmer", 4210, 62, 48, 70, 90, 5, 8, true, 1, 1, 4, 3, 18, 1, 2002, 23,
-     "Вам пришла зарплата"},
-    {"danger", 38, -60, -24, -34, 45, 2, 4, false, 0, 0, 2, 2, 28, 10, 2001, 18, LongMessage},
-    {"owner", 12450, 90, 95, 85, 100, 8, 12, true, 1, 2, 11, 9, 12, 7, 2004, 13, ""},
-};
-
-void Live(const Life& life)
-{
-    SetMoney(life.money);
-    SetHappy(life.happy);
-    SetEatLevel(life.eat);
-    SetHealth(life.health);
-    SetIntelligence(life.intelligence);
-    SetEducation(life.rank);
-    SetWork(life.job);
-    GameState.WifeFound = GameState.Married = life.married ? True : False;
-    GameState.Sons = life.sons;
-    GameState.Daughters = life.daughters;
-    ShowFamily();
-    for (int category = 0; category < HardwareCategories; ++category) {
-        int part = life.hardware;
-        while (GetHardwareName(category, part).empty()) {
-            --part;
-        }
-        InstallHardware(category, part, false);
-    }
-    for (int category = 0; category < SoftwareCategories; ++category) {
-        int program = life.software;
-        while (GetSoftwareName(category, program).empty()) {
-            --program;
-        }
-        SoftwareField(category) = program;
-        ShowSoftware(category);
-    }
-    GameState.GameDate = MakeDate(life.day, life.month, life.year);
-    GameState.GameTime = MakeTime(life.hour, 30);
-    ShowTime();
-    ShowLabel(Label::lblMessage, life.message);
-}
 
 class Tour
 {
@@ -131,9 +76,42 @@ private:
     void Save(const QString& name, QWidget* window)
     {
         Settle();
-        if (!window || !window->grab().save(directory.filePath(name + ".png"))) {
+        if (!window || !Photograph(*window).save(directory.filePath(name + ".png"))) {
             failed = true;
         }
+    }
+
+    /// A window with the tooltip that stands over it.
+    static QPixmap Photograph(QWidget& window)
+    {
+        QWidget* tip = nullptr;
+        for (QWidget* each : QApplication::topLevelWidgets()) {
+            tip = each->isVisible() && each->inherits("QTipLabel") ? each : tip;
+        }
+        QPixmap picture = window.grab();
+        if (tip) {
+            const QRect place(tip->pos() - window.mapToGlobal(QPoint()), tip->size());
+            QPixmap both(picture.rect().united(place).size());
+            both.fill(colour::Night);
+            QPainter painter(&both);
+            painter.drawPixmap(0, 0, picture);
+            painter.drawPixmap(place.topLeft(), tip->grab());
+            painter.end();
+            picture = both;
+            QToolTip::hideText();
+        }
+        return picture;
+    }
+
+    /// Puts the mouse on a widget and waits for its tooltip.
+    static void Hover(QWidget& widget)
+    {
+        const QPoint at(widget.width() / 2, widget.height() - 2);
+        widget.setAttribute(Qt::WA_UnderMouse);
+        QEnterEvent entered(at, at, widget.mapToGlobal(at));
+        QCoreApplication::sendEvent(&widget, &entered);
+        QHelpEvent asked(QEvent::ToolTip, at, widget.mapToGlobal(at));
+        QCoreApplication::sendEvent(&widget, &asked);
     }
 
     /// Begins a call that waits, photographs what it opens and closes that.
@@ -158,17 +136,25 @@ private:
             Int16 level = 1;
             SetGameLevel(level);
             SetGameSpeed(30);
-            SetSoftSize(127);
             GameState.GameSpeed = 0; // the time stands still for the pictures
             frontEnd.SetMainTitle("Marshend Torvenhall 1.5 - Игрок");
             frontEnd.ShowMainWindow();
         });
         frmMain& main = frontEnd.MainWindow();
-        for (const Life& life : Lives) {
+        for (const Life& life : SampleLives()) {
             EnterRules([&life] { Live(life); });
             Save(QString("frmMain-") + life.name, &main);
         }
-        EnterRules([] { Live(Lives[1]); });
+        EnterRules([] {
+            for (int day = 1; day < 28; ++day) { // some of them hard
+                GameState.GameDate = MakeDate(day, 10, 2001);
+                SetHealth(60 - 3 * (day % 9) - 3 * day);
+            }
+            Live(SampleLives()[2]);
+        });
+        Hover(*main.findChild<QLabel*>("lblHealth"));
+        Save("frmMain-past", &main);
+        EnterRules([] { Live(SampleLives()[1]); });
         for (QAction* action : main.menuBar()->actions()) {
             QMenu* menu = action->menu();
             menu->popup(
@@ -186,19 +172,19 @@ private:
         GameWindow* opened = Opened(name);
         Save(name, opened);
         if (QWidget* row = opened ? RowOf(*opened) : nullptr) {
-            row->setAttribute(Qt::WA_UnderMouse);
-            QEnterEvent entered(QPointF(1, 1), QPointF(1, 1), row->mapToGlobal(QPointF(1, 1)));
-            QCoreApplication::sendEvent(row, &entered);
+            Hover(*row);
             Save(name + "-hovered", opened);
         }
         frontEnd.CloseWindow(window);
     }
 
-    /// The second choice of a place in town; null elsewhere.
+    /// The first choice of a place in town that something stands in the way of,
+    /// else the second; null elsewhere.
     static QWidget* RowOf(const GameWindow& window)
     {
-        const auto rows = window.findChildren<GameButton*>();
-        return rows.size() > 1 ? rows[1] : nullptr;
+        const auto rows = window.findChildren<ChoiceButton*>();
+        const auto muted = std::ranges::find_if(rows, &GameButton::IsMuted);
+        return muted != rows.end() ? *muted : rows.size() > 1 ? rows[1] : nullptr;
     }
 
     static GameWindow* Opened(const QString& name)

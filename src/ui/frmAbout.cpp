@@ -46,6 +46,7 @@ frmAbout::frmAbout(QWidget* parent) : GameWindow("frmAbout", 460, 346, parent)
     GameButton* system = AddButton("Command2", "О системе...", {210, 304, 122, 30});
     system->SetGlyph(Glyph::Screen);
     GameButton* accept = AddButton("Command1", "OK", {342, 304, 104, 30});
+    accept->SetPrimary();
     connect(system, &QAbstractButton::clicked, this, [] { EnterRules(StartSysInfo); });
     connect(accept, &QAbstractButton::clicked, this, &frmAbout::reject);
     accept->setFocus();

@@ -23,6 +23,7 @@ frmLocGame::frmLocGame(const GameNameQuestion& question, QWidget* parent)
     AddEntries(question);
 
     GameButton* confirm = AddButton("Command1", Text(question.confirm), {136, 276, 118, 30});
+    confirm->SetPrimary();
     confirm->SetGlyph(question.saving ? Glyph::Diskette : Glyph::Play);
     GameButton* cancel = AddButton("Command2", "Отмена", {262, 276, 92, 30});
     connect(confirm, &QAbstractButton::clicked, this, &QDialog::accept);
@@ -45,7 +46,7 @@ void frmLocGame::AddEntries(const GameNameQuestion& question)
     if (!question.trouble.empty()) {
         GameLabel* trouble = AddLabel("Trouble", Text(question.trouble),
                                       {26, 232 - troubleHeight, 328, troubleHeight}, TextType(12));
-        trouble->SetColour(colour::Warm);
+        trouble->SetColour(colour::Loss);
         trouble->setWordWrap(true);
         name->setAccessibleDescription(trouble->text());
     }
@@ -55,6 +56,7 @@ void frmLocGame::AddEntries(const GameNameQuestion& question)
     }
     name->setObjectName("Text1");
     name->setAccessibleName("Название игры");
+    name->setPlaceholderText("Название игры");
     Place(*name, {26, 238, 328, 28});
     name->setEnabled(question.saving);
     const auto pick = [this](const QListWidgetItem* item) { name->setText(item->text()); };

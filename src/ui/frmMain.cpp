@@ -180,7 +180,7 @@ bool frmMain::ShowTileTip(const QWidget& tile)
     const QString words = "<b>" + labels[shown.label]->accessibleName().toHtmlEscaped() +
                           "</b><br>" + OutlookOf(shown.label);
     const auto fatal = mayKill ? std::optional(BoundsOf(shown.label).fatal) : std::nullopt;
-    QToolTip::showText(QCursor::pos(), words + shown.past.Curve(fatal));
+    QToolTip::showText(tile.mapToGlobal(QPoint(0, tile.height())), words + shown.past.Curve(fatal));
     return true;
 }
 

@@ -29,8 +29,8 @@ constexpr double Gap = 4;
 constexpr double Inner = Right - Left;
 
 constexpr QRectF Ribbon(Left, 5, Inner, 24);
-constexpr double TilesTop = 33;
-constexpr double TileHeight = 36;
+constexpr double TilesTop = 32;
+constexpr double TileHeight = 38;
 // Between the tiles and the computer lies the room.
 constexpr double ComputerTop = 187;
 constexpr double ComputerHeight = 137;
@@ -95,8 +95,8 @@ void frmMain::AddTile(const Tile& tile, const QRectF& place)
     scene->AddPanel(place, Scene::Panel::Deep);
     const QRectF inside = place.adjusted(6, 0, -5, 0);
     GameLabel* caption = AddCaption(
-        tile.caption, {inside.left(), place.top() + 2, inside.width(), 14}, CondensedType(11.5));
-    GameLabel* value = AddLabel(tile.label, {inside.left(), place.top() + 13, inside.width(), 17},
+        tile.caption, {inside.left(), place.top() + 1, inside.width(), 14}, CondensedType(11.5));
+    GameLabel* value = AddLabel(tile.label, {inside.left(), place.top() + 14, inside.width(), 17},
                                 TextType(15, true));
     value->SetSpokenCaption(tile.caption);
     tiles.push_back({tile.label, tile.caption, tile.value, {}});
@@ -109,7 +109,7 @@ void frmMain::AddTile(const Tile& tile, const QRectF& place)
     }
     if (tile.reading) {
         auto* gauge = new Gauge(tile.kind, tile.reading, scene);
-        Place(*gauge, {inside.left(), place.top() + 30, inside.width(), 4});
+        Place(*gauge, {inside.left(), place.top() + 32, inside.width(), 4});
         gauges.push_back(gauge);
     }
 }

@@ -12,6 +12,7 @@
 #include "game/programs.h"
 #include "savegame/savegame.h"
 #include "ui/frmMain.h"
+#include "ui/widgets/colours.h"
 #include "ui/windows.h"
 
 namespace torvenhall
@@ -73,7 +74,8 @@ void frmMain::BuildGameMenu()
     for (const WindowRow& row : WindowTable()) {
         if (row.item != nullptr) {
             AddItem(menu, row.item, row.itemText,
-                    row.itemOpens ? Command([&row] { Open(row); }) : Command());
+                    row.itemOpens ? Command([&row] { Open(row); }) : Command())
+                ->setIcon(GlyphIcon(row.glyph, colour::Warm));
         }
     }
 }

@@ -90,14 +90,16 @@ void frmNetwork::BuildInternet()
 
     internet = new QWidget(&Surface());
     internet->setObjectName("Picture1");
-    Place(*internet, {14, PanelTop + LinksTop, InternetWidth, SitesTop + SitesHeight - LinksTop});
-    GameButton* home = AddCommand("Command2", "<<< HomePage >>>", {12, 4, InternetWidth - 24, 24},
-                                  internet, nullptr);
+    Place(*internet, {14 - SiteShown, PanelTop + LinksTop, InternetWidth + SiteShown,
+                      SitesTop + SitesHeight - LinksTop});
+    GameButton* home = AddCommand("Command2", "<<< HomePage >>>",
+                                  {12 + SiteShown, 4, InternetWidth - 24, 24}, internet, nullptr);
     connect(home, &QAbstractButton::clicked, this, [this] { ShowSite(-1); });
     for (int i = 0; i < Sites; ++i) {
         const double top = 31.0 + 27 * i;
-        GameButton* place = AddCommand("cmdChangeLocation", Text(SiteAddress(i)),
-                                       {12, top, InternetWidth - 24, 24}, internet, nullptr);
+        GameButton* place =
+            AddCommand("cmdChangeLocation", Text(SiteAddress(i)),
+                       {12 + SiteShown, top, InternetWidth - 24, 24}, internet, nullptr);
         place->setObjectName(QString("cmdChangeLocation%1").arg(i));
         place->SetGlyph(Glyph::Globe);
         place->SetAlignment(Qt::AlignLeft);
@@ -107,17 +109,16 @@ void frmNetwork::BuildInternet()
 
 QWidget* frmNetwork::AddSite(int location, const QRectF& place)
 {
-    auto* panel = new Scene(place.width(), place.height(), internet);
+    auto* panel = new Card(internet);
     panel->setObjectName(QString("picLocation%1").arg(location));
     Place(*panel, place);
-    panel->AddPanel({0, 0, place.width(), place.height()}, Scene::Panel::Deep);
     sites[static_cast<std::size_t>(location)] = panel;
     return panel;
 }
 
 void frmNetwork::BuildSites()
 {
-    const double left = SiteShown, top = SitesTop - LinksTop, width = InternetWidth - 2 * SiteShown;
+    const double left = SiteShown, top = SitesTop - LinksTop, width = InternetWidth;
     const double inner = width - 20;
 
     QWidget* antivirus = AddSite(0, {left, top, width, 76});
@@ -161,7 +162,7 @@ void frmNetwork::BuildBoard()
     bbsDial =
         AddCommand("Command5", "Звонить", {left, PanelTop + 29, inner, 27}, &Surface(), DialBoard);
     bbsDial->SetGlyph(Glyph::Phone);
-    bbsStatus = AddLabel("Label2", {}, {left, PanelTop + 58, inner, 28}, TerminalType(11));
+    bbsStatus = AddLabel("Label2", {}, {left, PanelTop + 59, inner, 28}, TerminalType(11));
     bbsStatus->setWordWrap(true);
     bbsStatus->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     bbsStatus->SetColour(colour::LightCyan);

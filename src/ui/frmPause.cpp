@@ -15,6 +15,7 @@ frmPause::frmPause(QWidget* parent) : GameWindow("frmPause", 320, 204, parent)
     Surface().AddPanel({36, 66, 248, 128});
     AddHeading("Label1", "Label2", "Игра приостановлена", {50, 68, 220, 24}, 16);
     GameButton* resume = AddButton("Command1", "Продолжить", {50, 95, 220, 28});
+    resume->SetPrimary();
     resume->SetGlyph(Glyph::Play);
     GameButton* save = AddButton("Command2", "Сохранить игру", {50, 127, 220, 28});
     save->SetGlyph(Glyph::Diskette);

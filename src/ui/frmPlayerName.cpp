@@ -37,7 +37,8 @@ frmPlayerName::frmPlayerName(const NewPlayer& shown, QWidget* parent)
     level->view()->setAccessibleName("Уровень сложности");
     level->addItems({"Сложный", "Нормальный", "Простой"});
     level->setCurrentIndex(shown.level);
-    Place(*level, {28, 166, 258, 28});
+    AddLabel({}, "Сложность:", {28, 166, 74, 28}, TextType(13))->SetColour(colour::Caption);
+    Place(*level, {104, 166, 182, 28});
     AddLabel("Label2",
              "Введите Ваше имя и выберите уровень сложности, нажмите ОК и играйте!\n"
              "\n"
@@ -51,6 +52,7 @@ frmPlayerName::frmPlayerName(const NewPlayer& shown, QWidget* parent)
         ->setWordWrap(true);
 
     GameButton* accept = AddButton("Command1", "OK", {82, 358, 98, 30});
+    accept->SetPrimary();
     GameButton* cancel = AddButton("Command2", "Отмена", {188, 358, 98, 30});
     connect(accept, &QAbstractButton::clicked, this, &QDialog::accept);
     connect(cancel, &QAbstractButton::clicked, this, &frmPlayerName::reject);

@@ -41,9 +41,8 @@ frmVirus::frmVirus(QWidget* parent) : GameWindow("frmVirus", Width, Height, pare
     picture->setObjectName("Image1");
     picture->setScaledContents(true);
     Place(*picture, {0, 0, Width, Height});
-    auto* panel = new Scene(Width - 24, 68, &Surface());
+    auto* panel = new Card(&Surface());
     Place(*panel, {12, Height - 68 - 10, Width - 24, 68});
-    panel->AddPanel({0, 0, Width - 24, 68}, Scene::Panel::Deep);
 
     GameLabel* text = AddLabel("Label1", "На Вашем компьютере обнаружен злой вирус!",
                                {24, Height - 75, Width - 48, 24}, TextType(15, true));

@@ -29,6 +29,9 @@ Colours ColoursOf(const Face& face)
         return face.lit ? Colours{{34, 39, 48}, {23, 27, 35}, {150, 160, 168, 150}}
                         : Colours{{24, 29, 38}, {17, 21, 29}, {150, 160, 168, 64}};
     }
+    if (face.primary && !face.lit) {
+        return {{30, 84, 98}, {17, 56, 68}, {140, 224, 236, 170}};
+    }
     return face.lit ? Colours{{44, 88, 104}, {24, 58, 72}, {140, 214, 226, 210}}
                     : Colours{{36, 54, 73}, {20, 32, 46}, {140, 214, 226, 96}};
 }
@@ -83,7 +86,7 @@ void PaintFace(QPainter& painter, const QRectF& place, const Face& face)
         painter.drawLine(plate.topLeft() + QPointF(radius, width),
                          plate.topRight() + QPointF(-radius, width));
     }
-    if (face.focused) {
+    if (face.focused && !face.rivalled) {
         const double gap = 2 * width;
         PaintFocus(painter, place.adjusted(gap, gap, -gap, -gap), radius - width);
     }

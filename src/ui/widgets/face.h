@@ -14,7 +14,9 @@ struct Face {
     bool down = false;
     bool lit = false; ///< under the mouse
     bool muted = false;
+    bool primary = false; ///< what the window is there for
     bool focused = false;
+    bool rivalled = false; ///< the mouse is on another one: the focus steps back
 };
 
 /// The one face of all the game's buttons, in toolkit pixels.

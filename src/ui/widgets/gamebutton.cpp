@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 
 #include "ui/widgets/face.h"
 #include "ui/widgets/fittext.h"
@@ -18,6 +19,8 @@ constexpr double SidePadding = 9;
 constexpr double GlyphSize = 15;
 constexpr double StackedGlyphSize = 17;
 constexpr double GlyphGap = 7;
+/// The button under the mouse.
+QPointer<GameButton> hovered;
 } // namespace
 
 GameButton::GameButton(const QString& controlName, const QString& caption, QWidget* parent)
@@ -100,7 +103,14 @@ QColor GameButton::Ink() const
 
 void GameButton::PaintGround(QPainter& painter) const
 {
-    PaintFace(painter, rect(), {isEnabled(), isDown(), underMouse(), muted, hasFocus()});
+    PaintFace(painter, rect(),
+              {.usable = isEnabled(),
+               .down = isDown(),
+               .lit = underMouse(),
+               .muted = muted,
+               .primary = primary,
+               .focused = hasFocus(),
+               .rivalled = hovered && hovered != this && hovered->window() == window()});
 }
 
 void GameButton::PaintStacked(QPainter& painter) const
@@ -163,16 +173,26 @@ void GameButton::keyPressEvent(QKeyEvent* event)
     QPushButton::keyPressEvent(event);
 }
 
+/// The focus steps back while the mouse is on another button.
+void GameButton::Hover(GameButton* button)
+{
+    hovered = button;
+    update();
+    if (QWidget* focused = window()->focusWidget()) {
+        focused->update();
+    }
+}
+
 void GameButton::enterEvent(QEnterEvent* event)
 {
     QPushButton::enterEvent(event);
-    update();
+    Hover(this);
 }
 
 void GameButton::leaveEvent(QEvent* event)
 {
     QPushButton::leaveEvent(event);
-    update();
+    Hover(nullptr);
 }
 
 void GameButton::resizeEvent(QResizeEvent* event)

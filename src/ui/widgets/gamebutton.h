@@ -16,6 +16,8 @@ public:
 
     void SetGlyph(Glyph newGlyph);
     void SetAlignment(Qt::Alignment newAlignment) { alignment = newAlignment; }
+    /// Looks like what the window is there for.
+    void SetPrimary() { primary = true; }
     /// Draws the glyph above the caption.
     void Stack();
     /// Looks out of reach (the money does not suffice) but can be clicked.
@@ -48,11 +50,13 @@ protected:
     Glyph Sign() const { return glyph; }
 
 private:
+    void Hover(GameButton* button);
     void PaintStacked(QPainter& painter) const;
 
     Glyph glyph = Glyph::None;
     Qt::Alignment alignment = Qt::AlignCenter;
     bool muted = false;
+    bool primary = false;
     bool stacked = false;
     bool enterPresses = true;
 };

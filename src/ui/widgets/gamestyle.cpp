@@ -20,7 +20,7 @@ namespace
 
 constexpr double FieldRadius = 4;
 // Of an item of a menu: what stands before its words and behind them.
-constexpr double MarkWidth = 22;
+constexpr double MarkWidth = 24;
 constexpr double ItemEnd = 14;
 
 void PaintRow(QPainter& painter, const QRectF& place, const QColor& fill)
@@ -61,6 +61,12 @@ void PaintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item)
     const bool chosen = usable && (item.state & QStyle::State_Selected);
     if (chosen) {
         PaintRow(painter, place.adjusted(Px(2), 0, -Px(2), 0), colour::Chosen);
+    }
+    if (!item.icon.isNull()) {
+        QRect sign(0, 0, Px(14), Px(14));
+        sign.moveCenter(
+            QPointF(place.left() + Px(MarkWidth + 3) / 2.0, place.center().y()).toPoint());
+        item.icon.paint(&painter, sign);
     }
     if (item.checked) {
         QRectF mark(0, 0, Px(13), Px(13));
@@ -116,9 +122,13 @@ void PaintComboBox(QPainter& painter, const QStyleOptionComboBox& box)
 
 Face FaceOf(const QStyleOption& button)
 {
+    const auto* push = qstyleoption_cast<const QStyleOptionButton*>(&button);
+    const bool isDefault =
+        push != nullptr && (push->features & QStyleOptionButton::DefaultButton) != 0;
     return {.usable = (button.state & QStyle::State_Enabled) != 0,
             .down = (button.state & QStyle::State_Sunken) != 0,
             .lit = (button.state & QStyle::State_MouseOver) != 0,
+            .primary = isDefault,
             .focused = (button.state & QStyle::State_HasFocus) != 0};
 }
 

@@ -151,7 +151,8 @@ void Play(Strokes& draw)
 
 void Minimise(Strokes& draw)
 {
-    draw.Line(3, 13, 13, 13);
+    draw.lines.addRoundedRect(1.5, 2.5, 13, 11, 1.2, 1.2);
+    draw.Line(4.5, 10.5, 9, 10.5);
 }
 
 void Saltire(Strokes& draw, double from, double to)

@@ -18,6 +18,7 @@ InputWindow::InputWindow(const QString& prompt, const QString& title, QWidget* p
     entry->setAccessibleName(prompt);
     Place(*entry, {22, 42, 286, 26});
     GameButton* accept = AddButton("Command1", "OK", {112, 78, 94, 28});
+    accept->SetPrimary();
     GameButton* cancel = AddButton("Command2", "Отмена", {214, 78, 94, 28});
     connect(accept, &QAbstractButton::clicked, this, &QDialog::accept);
     connect(cancel, &QAbstractButton::clicked, this, &InputWindow::reject);

@@ -132,4 +132,11 @@ void Scene::paintEvent(QPaintEvent*)
     }
 }
 
+void Card::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintPanel(painter, rect(), colour::PanelDeep);
+}
+
 } // namespace torvenhall

@@ -61,4 +61,14 @@ private:
     int step = 0;
 };
 
+/// A panel of its own, over whatever is behind it.
+class Card : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
 } // namespace torvenhall

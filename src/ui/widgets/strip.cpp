@@ -109,7 +109,8 @@ void Strip::Foresee(const std::vector<Effect>& effects)
     for (const Item& item : items) {
         const auto found = std::ranges::find(effects, item.label, &Effect::label);
         const bool changes = found != effects.end() && found->amount != 0;
-        item.gauge->SetGhost(changes ? ShareOf(*found) : 0);
+        // What comes day by day changes nothing yet.
+        item.gauge->SetGhost(changes && *found->per == 0 ? ShareOf(*found) : 0);
         item.value->SetNote(changes ? NoteOf(*found) : QString(),
                             changes && found->amount < 0 ? colour::Loss : colour::Gain);
     }
