@@ -13,7 +13,12 @@ EquipmentShop::EquipmentShop(const Plan& plan, const Goods& newGoods, QWidget* p
     for (std::size_t i = 0; i < goods.glyphs.size(); ++i) {
         rows.push_back({goods.buttonName + QString::number(i), "%CPUBUTTON%", goods.glyphs[i]});
     }
-    AddChoices({.caption = {}, .captionName = {}, .width = goods.width, .type = goods.type}, rows);
+    AddChoices({.caption = {},
+                .captionName = {},
+                .width = goods.width,
+                .rowHeight = goods.rowHeight,
+                .type = goods.type},
+               rows);
     for (std::size_t i = 0; i < rows.size(); ++i) {
         SetDeed(i, [buy = goods.buy, category = static_cast<int>(i)] { buy(category); });
     }

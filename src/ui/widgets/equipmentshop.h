@@ -14,9 +14,10 @@ class EquipmentShop : public ActivityWindow
 {
 public:
     struct Goods {
-        const char* buttonName;        ///< with the category's number behind it
-        double width;                  ///< of the list, in units
-        Type type;                     ///< of its rows
+        const char* buttonName; ///< with the category's number behind it
+        double width;           ///< of the list, in units
+        Type type;              ///< of its rows
+        double rowHeight;
         std::span<const Glyph> glyphs; ///< one for each category
         Offer (*offer)(Int16 category);
         void (*buy)(Int16 category);

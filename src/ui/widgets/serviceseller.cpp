@@ -92,7 +92,7 @@ ServiceSeller::ServiceSeller(const char* name, const ServiceWindow& newTable, co
         rows.push_back(
             {QString("Command%1").arg(i + 1), Text(table.services[i].caption), look.glyphs[i]});
     }
-    AddChoices({Text(table.group), "Label1", look.width}, rows);
+    AddChoices({Text(table.group), "Label1", look.width, 31}, rows);
     for (std::size_t i = 0; i < rows.size(); ++i) {
         SetDeed(i, [&sold = table, i] { BuyService(sold, i); });
     }
