@@ -19,7 +19,7 @@ inline constexpr Flicker Flickers[]{
     {"WORKPICTURE", {366, 64, 104, 36}}, // the number
     {"EDUCPICTURE", {320, 72, 84, 34}},  // the lamp over the blackboard
     {"SHOPPICTURE", {316, 62, 72, 50}},  // the lamp over the counter
-    {"HAPPYPICTURE", {329, 62, 37, 37}}, // the spade of the four suits
+    {"HAPPYPICTURE", {382, 60, 34, 42}}, // a letter of the casino
     {"NETPICTURE", {590, 254, 30, 34}},  // the bulb of the spider's workplace
     {"TITLEPICTURE", {311, 22, 46, 60}}, // a letter that is half dead
 };
