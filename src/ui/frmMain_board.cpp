@@ -31,15 +31,16 @@ constexpr double Inner = Right - Left;
 constexpr QRectF Ribbon(Left, 5, Inner, 24);
 constexpr double TilesTop = 32;
 constexpr double TileHeight = 38;
-// Between the tiles and the computer lies the room.
-constexpr double ComputerTop = 187;
+constexpr double ComputerTop = 74;
 constexpr double ComputerHeight = 137;
+// Between the computer and the buttons lies the room. The message line is told
+// at its foot like a subtitle and leaves nothing behind.
 constexpr double HardwareWidth = 262;
 constexpr double SoftwareWidth = Inner - Gap - HardwareWidth;
 constexpr double HeadHeight = 16;
 constexpr double RowHeight = 13;
 constexpr double CaptionWidth = 66;
-constexpr QRectF MessagePlace(Left, 328, Inner, 46);
+constexpr QRectF MessagePlace(Left, 327, Inner, 47);
 constexpr double ButtonsTop = 378;
 constexpr double ButtonHeight = 37;
 
@@ -85,7 +86,7 @@ GameLabel* frmMain::AddCaption(const QString& text, const QRectF& place, const T
 void frmMain::BuildClock()
 {
     scene->AddPanel(Ribbon, Scene::Panel::Deep);
-    AddLabel(Label::lblTime, Ribbon.adjusted(10, 0, -Inner / 2, 0), TerminalType(14.5));
+    AddLabel(Label::lblTime, Ribbon.adjusted(10, 0, -Inner / 2, 0), TextType(14.5));
     AddLabel(Label::lblCurrWork, Ribbon.adjusted(Inner / 2, 0, -10, 0), TextType(13, true))
         ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
@@ -180,11 +181,9 @@ void frmMain::BuildComputer()
 
 void frmMain::BuildMessageLine()
 {
-    scene->AddPanel(MessagePlace, Scene::Panel::Deep);
     auto* messageLine =
         new TerminalLabel(Text(LabelNames[Label::lblMessage]), TerminalType(11.5), scene);
-    Place(*messageLine, MessagePlace.adjusted(8, 1, -6, -1));
-    messageLine->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    Place(*messageLine, MessagePlace);
     messageLine->setWordWrap(true);
     labels[Label::lblMessage] = messageLine;
 }

@@ -23,6 +23,7 @@ void PaintRoom(QPainter& painter, const RoomLook& look, double pixelRatio)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.drawPixmap(0, 0, base);
     painter.scale(UnitScale(), UnitScale());
+    painter.translate(0, RoomTop);
     PaintWall(painter, look);
     PaintThings(painter, look, pixelRatio);
     PaintLight(painter, look);

@@ -12,9 +12,9 @@ namespace
 {
 
 /// Only the band between the panels is lit; the rest is dark anyway.
-constexpr QRectF Band(0, 60, 518, 138);
+constexpr QRectF Band(0, 44, 518, 182);
 /// What of it no panel covers.
-constexpr QRectF Free(0, 69, 518, 118);
+constexpr QRectF Free(0, 50, 518, 173);
 /// Light has no edges: a pixel of its map covers two units.
 constexpr double MapScale = 0.5;
 

@@ -11,11 +11,11 @@ namespace
 {
 
 /// What is above hides behind the panels.
-constexpr double Top = 68;
+constexpr double Top = 46;
 constexpr QRectF Glass(14, Top, 96, 152 - Top);
 
 /// Glass without bars or pot, for what falls behind it.
-constexpr QRectF Open[]{{14, Top, 42, 76}, {62, Top, 39.4, 18.5}, {62, 91.1, 39.4, 61}};
+constexpr QRectF Open[]{{14, Top, 42, 106}, {62, Top, 48, 40.5}, {62, 91.1, 39.4, 61}};
 
 struct SkyColours {
     QRgb top, middle, low;

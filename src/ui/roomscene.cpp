@@ -9,6 +9,16 @@
 namespace torvenhall
 {
 
+namespace
+{
+
+QRect PxPlace(const RoomMotion& motion)
+{
+    return PxRect(motion.place.translated(0, RoomTop));
+}
+
+} // namespace
+
 void RoomScene::Refresh()
 {
     if (const RoomLook present = PresentRoom(); look != present) {
@@ -22,7 +32,7 @@ void RoomScene::Step()
     const int before = step++;
     for (const RoomMotion& motion : RoomMotions()) {
         if (motion.moves(look, before, step)) {
-            update(PxRect(motion.place));
+            update(PxPlace(motion));
         }
     }
 }
@@ -41,10 +51,11 @@ void RoomScene::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const RoomMotion& motion : RoomMotions()) {
-        if (event->region().intersects(PxRect(motion.place))) {
+        if (event->region().intersects(PxPlace(motion))) {
             painter.save();
-            painter.setClipRect(PxRect(motion.place));
+            painter.setClipRect(PxPlace(motion));
             painter.scale(UnitScale(), UnitScale());
+            painter.translate(0, RoomTop);
             motion.paint(painter, look, step);
             painter.restore();
         }

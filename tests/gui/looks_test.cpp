@@ -8,6 +8,7 @@
 #include <QSettings>
 
 #include <cmath>
+#include <functional>
 
 #include "activities/work.h"
 #include "equipment/basEquipment.h"
@@ -162,25 +163,33 @@ void ExpectWhole(const QWidget& window)
 /// No text is hard to tell from any pixel behind it.
 void ExpectReadable(QWidget& window)
 {
-    std::vector<std::pair<QWidget*, QString>> texts;
+    struct Ink {
+        QWidget* control;
+        std::function<void()> hide, show;
+    };
+    std::vector<Ink> texts;
     for (QWidget* each : window.findChildren<QWidget*>()) {
-        const auto* label = dynamic_cast<GameLabel*>(each);
+        auto* label = dynamic_cast<GameLabel*>(each);
         auto* button = dynamic_cast<GameButton*>(each);
-        if (each->isVisible() && (button || (label && label->Colour().alpha() == 255))) {
-            texts.emplace_back(each, each->property("text").toString());
+        if (each->isVisible() && label && label->Colour().alpha() == 255) {
+            // Its text stays: what it stands on may grow with it.
+            texts.push_back({label, [label] { label->SetColour(Qt::transparent); },
+                             [label, was = label->Colour()] { label->SetColour(was); }});
         }
-        if (button) {
+        if (each->isVisible() && button) {
+            texts.push_back({button, [button] { button->setText({}); },
+                             [button, was = button->text()] { button->setText(was); }});
             button->SetGlyph(Glyph::None); // it would move with the text
         }
     }
     const QImage with = window.grab().toImage();
-    for (const auto& [control, text] : texts) {
-        control->setProperty("text", QString());
+    for (const Ink& each : texts) {
+        each.hide();
     }
     const QImage without = window.grab().toImage();
-    for (const auto& [control, text] : texts) {
-        control->setProperty("text", text);
-        EXPECT_GE(ContrastOf(*control, with, without), LeastContrast) << NameOf(*control);
+    for (const Ink& each : texts) {
+        each.show();
+        EXPECT_GE(ContrastOf(*each.control, with, without), LeastContrast) << NameOf(*each.control);
     }
 }
 

@@ -6,7 +6,10 @@
 #include <QTextLayout>
 
 #include "core/shown.h"
+#include "ui/widgets/colours.h"
+#include "ui/widgets/face.h"
 #include "ui/widgets/fittext.h"
+#include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
 
 namespace torvenhall
@@ -42,27 +45,44 @@ void TerminalLabel::ShowPastMessages()
     setAccessibleDescription(past);
 }
 
-void TerminalLabel::paintEvent(QPaintEvent* event)
+void TerminalLabel::resizeEvent(QResizeEvent* event)
 {
-    GameLabel::paintEvent(event);
+    // A unit of the panel's border and the air within it.
+    setContentsMargins(Px(8), Px(2), Px(6), Px(2));
+    GameLabel::resizeEvent(event);
+}
+
+void TerminalLabel::paintEvent(QPaintEvent*)
+{
+    if (text().isEmpty()) {
+        return; // what lies behind is worth seeing
+    }
     const QFont shown = WrappedFont();
-    const QFontMetricsF metrics(shown);
+    QTextLayout layout(text(), shown);
+    const QRectF inside = contentsRect();
+    const double height = BreakLines(layout, inside.width());
+    const QPointF origin(inside.left(), inside.bottom() - height);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintPanel(painter, QRectF(rect()).adjusted(0, origin.y() - inside.top(), 0, 0),
+               colour::PanelDeep);
+    painter.setPen(Colour());
+    layout.draw(&painter, origin);
+    PaintCursor(painter, layout, origin);
+}
+
+void TerminalLabel::PaintCursor(QPainter& painter, const QTextLayout& layout,
+                                const QPointF& origin) const
+{
+    const QFontMetricsF metrics(layout.font());
     const double width = metrics.horizontalAdvance('M');
-    QPointF place(0, 0);
-    if (!text().isEmpty()) {
-        QTextLayout layout(text(), shown);
-        BreakLines(layout, contentsRect().width());
-        const QTextLine last = layout.lineAt(layout.lineCount() - 1);
-        place = {last.cursorToX(static_cast<int>(text().size())) + width * 0.15, last.y()};
+    const QTextLine last = layout.lineAt(layout.lineCount() - 1);
+    const QPointF place(last.cursorToX(static_cast<int>(text().size())) + width * 0.15,
+                        last.y() + metrics.height() * 0.12);
+    if (place.x() + width <= contentsRect().width()) {
+        painter.fillRect(QRectF(origin + place, QSizeF(width * 0.85, metrics.height() * 0.76)),
+                         Colour());
     }
-    if (place.x() + width > contentsRect().width()) {
-        return;
-    }
-    QColor ink = Colour();
-    ink.setAlpha(text().isEmpty() ? 70 : 255);
-    const QRectF block(contentsRect().topLeft() + place + QPointF(0, metrics.height() * 0.12),
-                       QSizeF(width * 0.85, metrics.height() * 0.76));
-    QPainter(this).fillRect(block, ink);
 }
 
 } // namespace torvenhall
