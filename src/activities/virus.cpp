@@ -14,11 +14,6 @@ namespace torvenhall
 namespace
 {
 
-double Loss()
-{
-    return Round(GameState.Money.value() / 20.0);
-}
-
 void Tell(const std::string& text)
 {
     MsgBox(text, "Сообщение", Icon::Exclamation);
@@ -28,11 +23,16 @@ void Tell(const std::string& text)
 /// was open.
 void LoseMoney(const std::string& beforeSum)
 {
-    Tell(beforeSum + DecimalOf(Loss()) + " баксов!");
-    SetMoney(ToInt32(GameState.Money.value() - Loss()));
+    Tell(beforeSum + DecimalOf(VirusLoss()) + " баксов!");
+    SetMoney(ToInt32(GameState.Money.value() - VirusLoss()));
 }
 
 } // namespace
+
+double VirusLoss()
+{
+    return Round(GameState.Money.value() / 20.0);
+}
 
 void FightVirus()
 {

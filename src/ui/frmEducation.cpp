@@ -24,7 +24,7 @@ enum Index : std::size_t { School, Courses };
 /// What is learnt in a month, and that it is paid for every month.
 QString Monthly(const QString& learnt, const Programme& programme)
 {
-    return QString("Каждый месяц %1 и −$%2").arg(learnt).arg(programme.price);
+    return QString("Каждый месяц %1, плата $%2").arg(learnt).arg(programme.price);
 }
 
 QString LearntInCourses()

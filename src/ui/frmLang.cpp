@@ -7,6 +7,8 @@
 
 #include "game/entry.h"
 #include "resources/basLangMGR.h"
+#include "ui/widgets/cats.h"
+#include "ui/widgets/gamelist.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/theme.h"
@@ -15,24 +17,28 @@ namespace torvenhall
 {
 
 frmLang::frmLang(QWidget* parent)
-    : GameWindow("frmLang", 380, 330, parent), list(new QListWidget(&Surface())),
+    : GameWindow("frmLang", 380, 330, parent),
+      list(new GameList("Языковых файлов пока нет", &Surface())),
       info(new QPlainTextEdit(&Surface()))
 {
     setWindowTitle("Select Language");
     Surface().AddPanel({12, 12, 356, 306}, Scene::Panel::Deep);
-    AddLabel("Label1", "Present Languages:", {26, 20, 328, 20}, TextType(12))
+    AddLabel("Label1", "Present Languages:", {26, 50, 240, 20}, TextType(12))
         ->SetColour(colour::Warm);
     list->setObjectName("List1");
     list->setAccessibleName("Present Languages:");
-    Place(*list, {26, 42, 328, 104});
+    Place(*list, {26, 72, 328, 84});
+    auto* cat = new CatPicture(Cat::Translating, &Surface());
+    Place(*cat, {278, 10, 64, 64});
     for (const std::string& file : LangFiles()) {
         list->addItem(QFileInfo(Text(file)).completeBaseName());
     }
-    AddLabel("Label2", "Language Info:", {26, 152, 328, 20}, TextType(12))->SetColour(colour::Warm);
+    AddLabel("Label2", "Language Info:", {26, 162, 328, 20}, TextType(12))->SetColour(colour::Warm);
     info->setObjectName("Text1");
     info->setAccessibleName("Language Info:");
     info->setReadOnly(true);
-    Place(*info, {26, 174, 328, 90});
+    info->setPlaceholderText("Выберите язык в списке");
+    Place(*info, {26, 184, 328, 80});
     auto* files = new QListWidget(&Surface()); // nothing uses it yet
     files->setObjectName("File1");
     files->setAccessibleName("File1");

@@ -2,11 +2,12 @@
 
 #include "ui/widgets/gamewindow.h"
 
-class QListWidget;
 class QPlainTextEdit;
 
 namespace torvenhall
 {
+
+class GameList;
 
 /// The language chooser. Dormant: nothing opens it and nothing fills the list
 /// of language files yet.
@@ -18,7 +19,7 @@ public:
 private:
     void ShowLanguage(int row);
 
-    QListWidget* list;
+    GameList* list;
     QPlainTextEdit* info;
 };
 

@@ -2,9 +2,9 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QListWidget>
 
-#include "ui/widgets/pictures.h"
+#include "ui/widgets/cats.h"
+#include "ui/widgets/gamelist.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/theme.h"
@@ -12,18 +12,30 @@
 namespace torvenhall
 {
 
+namespace
+{
+
+constexpr double ListTop = 74;
+constexpr double CatSide = 60;
+
+} // namespace
+
 frmLocGame::frmLocGame(const GameNameQuestion& question, QWidget* parent)
-    : GameWindow("frmLocGame", 380, 330, parent), list(new QListWidget(&Surface())),
+    : GameWindow("frmLocGame", 380, 330, parent),
+      list(new GameList("Сохранённых игр пока нет", &Surface())),
       name(new QLineEdit(Text(question.name), &Surface()))
 {
     setWindowTitle(Text(question.caption));
     Surface().AddPanel({12, 12, 356, 306}, Scene::Panel::Deep);
-    AddLabel("Label1", Text(question.heading), {26, 20, 328, 22}, TextType(14, true))
+    AddLabel("Label1", Text(question.heading), {26, 44, 328 - CatSide - 16, 24}, TextType(15, true))
         ->SetColour(colour::Warm);
     AddEntries(question);
 
     GameButton* confirm = AddButton("Command1", Text(question.confirm), {136, 276, 118, 30});
-    confirm->SetPrimary();
+    // To load, first a game is chosen.
+    const auto light = [this, confirm] { confirm->SetPrimary(!name->text().isEmpty()); };
+    connect(name, &QLineEdit::textChanged, confirm, light);
+    light();
     confirm->SetGlyph(question.saving ? Glyph::Diskette : Glyph::Play);
     GameButton* cancel = AddButton("Command2", "Отмена", {262, 276, 92, 30});
     connect(confirm, &QAbstractButton::clicked, this, &QDialog::accept);
@@ -42,7 +54,9 @@ void frmLocGame::AddEntries(const GameNameQuestion& question)
     list->setObjectName("List1");
     list->setAccessibleName(Text(question.heading));
     const double troubleHeight = question.trouble.empty() ? 0 : 36;
-    Place(*list, {26, 44, 328, 186 - troubleHeight});
+    Place(*list, {26, ListTop, 328, 230 - ListTop - troubleHeight});
+    auto* cat = new CatPicture(question.saving ? Cat::Saving : Cat::Loading, &Surface());
+    Place(*cat, {342 - CatSide, ListTop + 2 - CatSide, CatSide, CatSide});
     if (!question.trouble.empty()) {
         GameLabel* trouble = AddLabel("Trouble", Text(question.trouble),
                                       {26, 232 - troubleHeight, 328, troubleHeight}, TextType(12));
@@ -50,7 +64,6 @@ void frmLocGame::AddEntries(const GameNameQuestion& question)
         trouble->setWordWrap(true);
         name->setAccessibleDescription(trouble->text());
     }
-    SpaceRows(*list);
     for (const std::string& game : question.games) {
         list->addItem(Text(game));
     }

@@ -4,10 +4,11 @@
 #include "ui/widgets/gamewindow.h"
 
 class QLineEdit;
-class QListWidget;
 
 namespace torvenhall
 {
+
+class GameList;
 
 /// The dialog that saves and loads: the saved games and a name, typed for
 /// saving, picked for loading.
@@ -25,7 +26,7 @@ protected:
 private:
     void AddEntries(const GameNameQuestion& question);
 
-    QListWidget* list;
+    GameList* list;
     QLineEdit* name;
 };
 

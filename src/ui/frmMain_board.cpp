@@ -39,6 +39,7 @@ constexpr double HardwareWidth = 262;
 constexpr double SoftwareWidth = Inner - Gap - HardwareWidth;
 constexpr double HeadHeight = 16;
 constexpr double RowHeight = 13;
+constexpr double SettingsHeight = 28;
 constexpr double CaptionWidth = 66;
 constexpr QRectF MessagePlace(Left, 327, Inner, 47);
 constexpr double ButtonsTop = 378;
@@ -152,7 +153,10 @@ void frmMain::AddRow(const QString& caption, Label label, const QRectF& place)
 void frmMain::BuildComputer()
 {
     const QRectF hardware(Left, ComputerTop, HardwareWidth, ComputerHeight);
-    const QRectF software(hardware.right() + Gap, ComputerTop, SoftwareWidth, ComputerHeight);
+    const QRectF settings(hardware.right() + Gap, hardware.bottom() - SettingsHeight, SoftwareWidth,
+                          SettingsHeight);
+    const QRectF software(settings.left(), ComputerTop, SoftwareWidth,
+                          ComputerHeight - SettingsHeight - Gap);
     const auto addHead = [this](const QString& text, const QRectF& panel) {
         scene->AddPanel(panel);
         AddCaption(text, {panel.left() + 8, panel.top() + 2, panel.width() - 16, HeadHeight - 1},
@@ -174,8 +178,11 @@ void frmMain::BuildComputer()
     for (const RowText& program : SoftwareRows) {
         AddRow(program.caption, program.label, rowOf(software, row++));
     }
+    scene->AddPanel(settings);
+    QRectF line(settings.left() + 8, settings.top() + 1, settings.width() - 16, RowHeight + 1);
     for (const Label setting : {Label::lblGameLevel, Label::lblGameSpeed}) {
-        AddLabel(setting, rowOf(software, row++), TextType(11))->SetColour(colour::Caption);
+        AddLabel(setting, line, TextType(11));
+        line.translate(0, RowHeight);
     }
 }
 

@@ -8,6 +8,7 @@
 #include "game/entry.h"
 #include "network/network.h"
 #include "resources/anecdotes.h"
+#include "ui/linelights.h"
 #include "ui/widgets/placing.h"
 #include "ui/widgets/qtext.h"
 #include "ui/widgets/theme.h"
@@ -42,6 +43,7 @@ frmNetwork::frmNetwork(QWidget* parent)
     : ActivityWindow({"frmNetwork", "Выход в свет", "NET", Width, Height}, parent)
 {
     AddSlogan("Label6", "Label7", "Всемирная паутина и один паук", Sign::Neon);
+    lights = new LineLights(&Surface()); // beneath all panels
     BuildInternet();
     BuildSites();
     BuildBoard();
@@ -202,6 +204,7 @@ void frmNetwork::ShowLines()
     const NetworkState& network = Network();
     ShowLine(inetStatus, network.inetStatus, inetMark, network.inetWaits != 0);
     ShowLine(bbsStatus, network.bbsStatus, bbsMark, network.bbsWaits != 0);
+    lights->Step();
     SetUsable(*inetDial, network.inetDialEnabled);
     SetUsable(*bbsDial, network.bbsDialEnabled);
     SetUsable(*download, network.downloadEnabled);

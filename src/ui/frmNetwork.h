@@ -9,6 +9,7 @@ class QTextEdit;
 namespace torvenhall
 {
 
+class LineLights;
 class WaitMark;
 
 /// The dial-up network: the Internet with its three sites on the left, the
@@ -41,6 +42,7 @@ private:
     bool pictureLoaded = false;
     GameButton *inetDial, *bbsDial, *download;
     GameLabel *inetStatus, *bbsStatus;
+    LineLights* lights;
     WaitMark *inetMark, *bbsMark;
     QWidget *internet, *bulletin;
     std::array<QWidget*, Sites> sites{};

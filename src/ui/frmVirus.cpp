@@ -4,9 +4,12 @@
 #include <QScopeGuard>
 
 #include "activities/virus.h"
+#include "core/GameState.h"
 #include "game/entry.h"
+#include "system/convert.h"
 #include "ui/widgets/pictures.h"
 #include "ui/widgets/placing.h"
+#include "ui/widgets/qtext.h"
 #include "ui/widgets/theme.h"
 
 namespace torvenhall
@@ -53,6 +56,11 @@ frmVirus::frmVirus(QWidget* parent) : GameWindow("frmVirus", Width, Height, pare
     for (GameButton* each : {kill, release}) {
         each->SetEnterPresses(false);
     }
+    const QString loss = "$" + Text(DecimalOf(VirusLoss()));
+    kill->Explain(GameState.SoftAntivirus <= 0
+                      ? "Антивируса нет: вирус сожрёт " + loss
+                      : "Как повезёт: вирус будет убит или сожрёт " + loss);
+    release->Explain("Вирус сожрёт " + loss);
     connect(kill, &QAbstractButton::clicked, this, [this] { Answer(FightVirus); });
     connect(release, &QAbstractButton::clicked, this, [this] { Answer(ReleaseVirus); });
 }

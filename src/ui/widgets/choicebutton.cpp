@@ -54,21 +54,6 @@ void ChoiceButton::SetBadge(Badge newBadge)
     }
 }
 
-void ChoiceButton::Explain(const QString& newExplanation)
-{
-    if (explanation != newExplanation) {
-        explanation = newExplanation;
-        setAccessibleDescription(explanation);
-        RefreshTip();
-    }
-}
-
-void ChoiceButton::RefreshTip()
-{
-    const QString tip = TextFits() ? explanation : text() + '\n' + explanation;
-    setToolTip(tip.isEmpty() ? tip : Qt::convertFromPlainText(tip)); // which breaks long lines
-}
-
 void ChoiceButton::LightUp()
 {
     glow.Begin(GlowMilliseconds);

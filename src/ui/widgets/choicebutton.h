@@ -21,8 +21,6 @@ public:
     /// The sums in the caption are what one is paid.
     void ShowWages() { wages = true; }
     void SetBadge(Badge newBadge);
-    /// What the tooltip and a screen reader say of it.
-    void Explain(const QString& newExplanation);
     /// Lights up for a moment: it is done.
     void LightUp();
     /// Is told when the player turns to this row by mouse or keyboard, and away.
@@ -35,7 +33,6 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     QRectF TextPlace() const override;
-    void RefreshTip() override;
 
 private:
     void PaintPresent(QPainter& painter) const;
@@ -46,7 +43,6 @@ private:
 
     bool wages = false;
     Badge badge = Badge::None;
-    QString explanation;
     Motion glow;
     std::function<void(bool)> attention;
 };

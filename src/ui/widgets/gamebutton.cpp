@@ -4,6 +4,10 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QTextLayout>
+#include <QToolTip>
+
+#include <algorithm>
 
 #include "ui/widgets/face.h"
 #include "ui/widgets/fittext.h"
@@ -19,6 +23,8 @@ constexpr double SidePadding = 9;
 constexpr double GlyphSize = 15;
 constexpr double StackedGlyphSize = 17;
 constexpr double GlyphGap = 7;
+constexpr double TipInset = 30;
+constexpr double TipWidth = 230; // at most, whatever the button's
 /// The button under the mouse.
 QPointer<GameButton> hovered;
 } // namespace
@@ -61,9 +67,51 @@ void GameButton::ShowText(const QString& caption)
     }
 }
 
+void GameButton::SetPrimary(bool newPrimary)
+{
+    if (primary != newPrimary) {
+        primary = newPrimary;
+        update();
+    }
+}
+
+void GameButton::Explain(const QString& newExplanation)
+{
+    if (explanation != newExplanation) {
+        explanation = newExplanation;
+        setAccessibleDescription(explanation);
+        RefreshTip();
+    }
+}
+
+/// A caption that does not fit, and what the button is explained with.
 void GameButton::RefreshTip()
 {
-    setToolTip(TextFits() ? QString() : text());
+    const QString tip = TextFits() ? explanation : text() + '\n' + explanation;
+    if (tip.isEmpty()) {
+        setToolTip({});
+        return;
+    }
+    // No wider than the button: the picture beside it is worth seeing.
+    QTextLayout layout(tip.trimmed(), QToolTip::font());
+    BreakLines(layout, std::max(width() - Px(TipInset + 16), Px(TipWidth)));
+    QStringList lines;
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        lines << layout.text().mid(line.textStart(), line.textLength()).trimmed().toHtmlEscaped();
+    }
+    setToolTip("<p style='white-space:nowrap'>" + lines.join("<br>") + "</p>");
+}
+
+bool GameButton::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && !toolTip().isEmpty()) {
+        // Beneath it; the toolkit adds what the usual arrow of a mouse needs.
+        const QPoint beneath = rect().bottomLeft() + QPoint(Px(TipInset) - 2, Px(3) - 16);
+        QToolTip::showText(mapToGlobal(beneath), toolTip(), this);
+        return true;
+    }
+    return QPushButton::event(event);
 }
 
 bool GameButton::TextFits() const

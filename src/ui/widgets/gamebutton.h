@@ -17,7 +17,7 @@ public:
     void SetGlyph(Glyph newGlyph);
     void SetAlignment(Qt::Alignment newAlignment) { alignment = newAlignment; }
     /// Looks like what the window is there for.
-    void SetPrimary() { primary = true; }
+    void SetPrimary(bool newPrimary = true);
     /// Draws the glyph above the caption.
     void Stack();
     /// Looks out of reach (the money does not suffice) but can be clicked.
@@ -29,12 +29,15 @@ public:
     void SetEnterPresses(bool presses) { enterPresses = presses; }
     /// Sets the caption unless it is shown already.
     void ShowText(const QString& caption);
+    /// What the tooltip and a screen reader say of it.
+    void Explain(const QString& newExplanation);
     /// Whether the whole caption is on screen.
     bool TextFits() const;
 
     QSize sizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
@@ -43,18 +46,18 @@ protected:
 
     /// Where the caption has room.
     virtual QRectF TextPlace() const;
-    /// What the tooltip says; by default a caption that does not fit.
-    virtual void RefreshTip();
     void PaintGround(QPainter& painter) const;
     QColor Ink() const;
     Glyph Sign() const { return glyph; }
 
 private:
+    void RefreshTip();
     void Hover(GameButton* button);
     void PaintStacked(QPainter& painter) const;
 
     Glyph glyph = Glyph::None;
     Qt::Alignment alignment = Qt::AlignCenter;
+    QString explanation;
     bool muted = false;
     bool primary = false;
     bool stacked = false;

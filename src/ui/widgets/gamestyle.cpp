@@ -120,6 +120,17 @@ void PaintComboBox(QPainter& painter, const QStyleOptionComboBox& box)
         QPolygonF{tip + QPointF(-Px(4), -Px(4)), tip, tip + QPointF(Px(4), -Px(4))});
 }
 
+/// What a tooltip stands on: lighter than the panels that it lies over, with a
+/// warm edge where the words begin.
+void PaintTip(QPainter& painter, const QRectF& place)
+{
+    painter.fillRect(place, QColor(24, 36, 50));
+    const double line = std::max(1.0, UnitScale());
+    painter.fillRect(QRectF(place.topLeft(), QSizeF(Px(3), place.height())), colour::Warm);
+    painter.setPen(QPen(QColor(120, 190, 205, 120), line));
+    painter.drawRect(place.adjusted(line / 2, line / 2, -line / 2, -line / 2));
+}
+
 Face FaceOf(const QStyleOption& button)
 {
     const auto* push = qstyleoption_cast<const QStyleOptionButton*>(&button);
@@ -211,6 +222,8 @@ void GameStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
                    option->state & State_Enabled ? colour::Hollow : colour::Night);
         return;
     case PE_PanelTipLabel:
+        PaintTip(*painter, option->rect);
+        return;
     case PE_PanelMenu:
     case PE_FrameMenu:
         painter->fillRect(option->rect, colour::Hollow);
@@ -249,7 +262,7 @@ int GameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                : qobject_cast<const QAbstractScrollArea*>(widget) ? Px(3)
                                                                   : usual;
     case PM_ToolTipLabelFrameWidth:
-        return Px(5);
+        return Px(7);
     case PM_LayoutLeftMargin: // of the message boxes
     case PM_LayoutRightMargin:
     case PM_LayoutTopMargin:

@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 
+#include "ui/widgets/cats.h"
 #include "ui/widgets/placing.h"
 
 namespace torvenhall
@@ -12,7 +13,9 @@ InputWindow::InputWindow(const QString& prompt, const QString& title, QWidget* p
 {
     setWindowTitle(title);
     Surface().AddPanel({10, 10, 310, 104}, Scene::Panel::Deep);
-    AddLabel("Prompt", prompt, {22, 16, 286, 24}, TextType(12));
+    AddLabel("Prompt", prompt, {22, 16, 226, 24}, TextType(12));
+    auto* cat = new CatPicture(Cat::Typing, &Surface());
+    Place(*cat, {256, 3, 42, 42});
     entry = new QLineEdit(&Surface());
     entry->setObjectName("Text1");
     entry->setAccessibleName(prompt);

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QHash>
 #include <QImageReader>
+#include <QPainter>
 #include <QResource>
 
 #include <utility>
@@ -90,6 +91,22 @@ QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio)
         picture = Decode(name, size, pixelRatio);
     }
     return picture;
+}
+
+void DrawCutOut(QPainter& painter, std::string_view sheet, const QRectF& piece, const QRectF& place)
+{
+    // How many pixels of the sheet and of the screen make a unit of the sheet.
+    constexpr int usual = 2, large = 4;
+    const double wanted = painter.deviceTransform().m11() * place.width() / piece.width();
+    const int fine = wanted > usual ? large : usual;
+    static QHash<QString, QImage> decoded;
+    QImage& cutOuts = decoded[Text(sheet)];
+    if (cutOuts.isNull() || cutOuts.text("fine").toInt() != fine) {
+        cutOuts = QImage::fromData(Carried(fine == large ? Large : Usual, sheet), "png")
+                      .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        cutOuts.setText("fine", QString::number(fine));
+    }
+    painter.drawImage(place, cutOuts, QRectF(piece.topLeft() * fine, piece.size() * fine));
 }
 
 } // namespace torvenhall

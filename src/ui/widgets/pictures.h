@@ -6,6 +6,9 @@
 
 #include <string_view>
 
+class QPainter;
+class QRectF;
+
 namespace torvenhall
 {
 
@@ -20,5 +23,10 @@ bool TakePictureStep(std::string_view key);
 /// A picture by its embedded name, filling a size in toolkit pixels; decoded and
 /// scaled once. Null when there is none.
 QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio);
+
+/// Draws a piece of a sheet of cut-outs ("THINGS"), given in the sheet's units, to
+/// a place of the painter, from the finer of its two copies where that is needed.
+void DrawCutOut(QPainter& painter, std::string_view sheet, const QRectF& piece,
+                const QRectF& place);
 
 } // namespace torvenhall

@@ -45,11 +45,6 @@ void Dress(QWidget& widget, const Type& type)
     widget.setFont(type.Font());
 }
 
-void SpaceRows(QListView& list)
-{
-    list.setSpacing(Px(2));
-}
-
 void FollowScale(QWidget& window)
 {
     QList<QWidget*> all = window.findChildren<QWidget*>();
@@ -61,9 +56,6 @@ void FollowScale(QWidget& window)
             each->setFont(font);
         }
         PutInPlace(*each);
-        if (auto* list = qobject_cast<QListView*>(each); list && list->spacing() > 0) {
-            SpaceRows(*list);
-        }
         each->update();
     }
 }

@@ -2,7 +2,6 @@
 
 #include "ui/widgets/metrics.h"
 
-class QListView;
 class QWidget;
 
 namespace torvenhall
@@ -17,8 +16,6 @@ void Place(QWidget& widget, const QRectF& units);
 QRectF PlaceOf(const QWidget& widget);
 /// Sets a widget's text in a type.
 void Dress(QWidget& widget, const Type& type);
-/// Sets a list's rows apart.
-void SpaceRows(QListView& list);
 
 /// Places and dresses a window and all in it anew, after the scale has changed.
 void FollowScale(QWidget& window);
