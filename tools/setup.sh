@@ -15,6 +15,7 @@ ninja-build             ninja
 qt6-base-dev            -
 qt6-translations-l10n   -
 libboost-context-dev    -
+libfontconfig-dev|libfontconfig1-dev    -
 fonts-paratype          -
 fonts-dejavu-core|fonts-liberation|fonts-liberation2    -
 "
@@ -120,7 +121,7 @@ require_tools() {
 needs_in_words() {
     echo "The build needs a C++20 compiler, CMake $OLDEST_CMAKE, Ninja and the development files" \
         "of Qt 6.4 and Boost.Context and the PT typefaces" \
-        "(Debian: g++ cmake ninja-build qt6-base-dev libboost-context-dev fonts-paratype)."
+        "(Debian: g++ cmake ninja-build qt6-base-dev libboost-context-dev libfontconfig-dev fonts-paratype)."
 }
 
 # Runs a command with its output in a log, which is shown when it fails.

@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <chrono>
 #include <cstdlib>
@@ -14,16 +15,33 @@
 #include "game/entry.h"
 #include "savegame/recovery.h"
 #include "system/basSystem.h"
+#include "ui/widgets/fontset.h"
 #include "ui/widgets/pictures.h"
 
 namespace torvenhall
 {
+
+namespace
+{
+
+void ShowIcon()
+{
+    EmbeddedPicture({}); // registers the resources, the icons among them
+    QIcon icon;
+    for (const char* size : {"16", "32", "48", "128"}) {
+        icon.addFile(QString(":/icon/") + size);
+    }
+    QApplication::setWindowIcon(icon);
+}
+
+} // namespace
 
 void Application::Prepare()
 {
     // The desktop's own toolkit would be loaded for its look, and take longer
     // than the whole game; the player's font size is read elsewhere.
     setDesktopSettingsAware(false);
+    FindFontsQuickly();
     setAttribute(Qt::AA_DontUseNativeDialogs);
     setAttribute(Qt::AA_DontUseNativeMenuBar);
 }
@@ -34,12 +52,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
     setApplicationVersion("1.5");
     setDesktopFileName("torvenhall");
     setQuitOnLastWindowClosed(false); // a new game closes every window
-    EmbeddedPicture({});              // registers the resources, the icons among them
-    QIcon icon;
-    for (const char* size : {"16", "32", "48", "128"}) {
-        icon.addFile(QString(":/icon/") + size);
-    }
-    setWindowIcon(icon);
+    installEventFilter(this);         // until the first window is painted
     // The toolkit's own words, in the menus of text fields.
     if (words.load("qtbase_ru", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         installTranslator(&words);
@@ -84,6 +97,16 @@ void Application::KeepLives()
             EnterRules(EndFromOutside);
         });
     }
+}
+
+bool Application::eventFilter(QObject* watched, QEvent* event)
+{
+    // The icon is decoded when the first window stands, which it would delay.
+    if (event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint) {
+        removeEventFilter(this);
+        QTimer::singleShot(0, this, ShowIcon);
+    }
+    return QApplication::eventFilter(watched, event);
 }
 
 bool Application::event(QEvent* event)

@@ -26,6 +26,7 @@ public:
 protected:
     /// At a logout nobody is asked anything.
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QTranslator words;

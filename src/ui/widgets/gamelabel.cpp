@@ -1,10 +1,12 @@
 #include "ui/widgets/gamelabel.h"
 
 #include <QFontMetricsF>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QTimer>
+#include <QToolTip>
 
 #include "core/shown.h"
 #include "ui/widgets/fittext.h"
@@ -47,7 +49,6 @@ void GameLabel::ShowText(const QString& newText)
     if (text() != newText) {
         const bool isChange = !text().isEmpty();
         setText(newText);
-        setToolTip(TextFits() && !hovers ? QString() : newText);
         SetSpokenCaption(spokenCaption);
         if (flashes && isChange) {
             Flash();
@@ -62,10 +63,14 @@ void GameLabel::ShowLabel(Label label)
     SetColour(shown.colour == TextColour::Red ? colour::Danger : colour::LightCyan);
 }
 
-void GameLabel::ShowOnHover()
+bool GameLabel::event(QEvent* event)
 {
-    hovers = true;
-    setToolTip(text());
+    // Asked only now: most texts are never pointed at, and some change all day.
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && (hovers || !TextFits())) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+        return true;
+    }
+    return QLabel::event(event);
 }
 
 void GameLabel::Flash()

@@ -28,13 +28,14 @@ public:
     /// Whether the whole text is on screen.
     bool TextFits() const;
     /// Hovering always shows the whole text, not only when it is cut.
-    void ShowOnHover();
+    void ShowOnHover() { hovers = true; }
     /// A new text is lit up for a moment.
     void FlashChanges() { flashes = true; }
 
     QSize minimumSizeHint() const override { return {}; }
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
     /// The largest font, down to a readable one, in which a wrapped text fits.

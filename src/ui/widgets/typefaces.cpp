@@ -3,6 +3,8 @@
 #include <QFontDatabase>
 #include <QResource>
 
+#include <initializer_list>
+
 #include "ui/widgets/metrics.h"
 
 // A library's resources are registered by name, which must be in the global
@@ -18,14 +20,12 @@ namespace torvenhall
 namespace
 {
 
-constexpr const char* TextFamily = "PT Sans";
-constexpr const char* CondensedFamily = "PT Sans Narrow";
-constexpr const char* TerminalFamily = "PT Mono";
-
-bool LoadTypefaces()
+/// The toolkit reads every letter of a face that it is given, so each comes when
+/// it is first wanted.
+bool LoadFaces(std::initializer_list<const char*> faces)
 {
     RegisterTypefaces();
-    for (const char* face : {"text", "text-bold", "condensed", "condensed-bold", "terminal"}) {
+    for (const char* face : faces) {
         const QResource resource(QString(":/typefaces/") + face);
         QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(
             reinterpret_cast<const char*>(resource.data()), resource.size()));
@@ -33,13 +33,29 @@ bool LoadTypefaces()
     return true;
 }
 
+const char* TextFaces()
+{
+    [[maybe_unused]] static const bool loaded = LoadFaces({"text", "text-bold"});
+    return "PT Sans";
+}
+
+const char* CondensedFaces()
+{
+    [[maybe_unused]] static const bool loaded = LoadFaces({"condensed", "condensed-bold"});
+    return "PT Sans Narrow";
+}
+
+const char* TerminalFace()
+{
+    [[maybe_unused]] static const bool loaded = LoadFaces({"terminal"});
+    return "PT Mono";
+}
+
 } // namespace
 
 QFont Type::Font() const
 {
-    static const bool loaded = LoadTypefaces();
-    Q_UNUSED(loaded);
-    QFont font(terminal ? TerminalFamily : TextFamily);
+    QFont font(terminal ? TerminalFace() : TextFaces());
     font.setPixelSize(FontPx(height));
     font.setBold(bold);
     return condensed ? Condensed(font) : font;
@@ -48,8 +64,8 @@ QFont Type::Font() const
 QFont Condensed(const QFont& font)
 {
     QFont condensed(font);
-    if (font.family() == TextFamily) {
-        condensed.setFamily(CondensedFamily);
+    if (font.family() == TextFaces()) {
+        condensed.setFamily(CondensedFaces());
     }
     return condensed;
 }
