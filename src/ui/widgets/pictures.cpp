@@ -4,7 +4,9 @@
 #include <QHash>
 #include <QImageReader>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QResource>
+#include <QtMath>
 
 #include <utility>
 
@@ -28,6 +30,9 @@ namespace
 /// For the larger scales each picture is carried a second time, twice as large.
 constexpr const char* Usual = ":/JPEGINSIDEDATA/";
 constexpr const char* Large = ":/large/";
+
+/// At scale 1: the room, and the two places in town where one was last.
+constexpr double KeptKilobytes = 2900;
 
 QByteArray Carried(const char* where, std::string_view name)
 {
@@ -79,16 +84,17 @@ bool TakePictureStep(std::string_view key)
 
 QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio)
 {
-    static QHash<QString, QPixmap> decoded;
     static double scale = 0;
     if (std::exchange(scale, UnitScale()) != UnitScale()) {
-        decoded.clear(); // no picture is wanted in its old size again
+        QPixmapCache::clear(); // no picture is wanted in its old size again
+        QPixmapCache::setCacheLimit(qCeil(KeptKilobytes * scale * scale));
     }
     const QString place =
         QString("%1 %2x%3@%4").arg(Text(name)).arg(size.width()).arg(size.height()).arg(pixelRatio);
-    QPixmap& picture = decoded[place];
-    if (picture.isNull() && !EmbeddedPicture(name).isEmpty()) {
+    QPixmap picture;
+    if (!QPixmapCache::find(place, &picture) && !EmbeddedPicture(name).isEmpty()) {
         picture = Decode(name, size, pixelRatio);
+        QPixmapCache::insert(place, picture);
     }
     return picture;
 }
