@@ -247,6 +247,7 @@ void PaintGlow(QPainter& painter, const RoomLook& look)
     painter.setClipRect(Free); // not into the gaps between the panels
     if (const double lamp = HourOf(look).lamp; lamp > 0) {
         PaintLampGlow(painter, look, lamp);
+        PaintLampsGlow(painter, look, lamp);
     } else { // the daylight in the air
         Shine(painter, {{110, 96}, 360, 150, 0xFF1E2226}, 1);
     }

@@ -32,8 +32,9 @@ struct Thing {
 /// In the order of drawing: from the wall to the desk's edge. Level 0 is what
 /// stands in for a thing that there is no money for yet.
 constexpr Thing Things[]{
-    {Slot::Case, 0, {{280, 256, 58, 18}, {136, 163}}}, // the place kept for it
-    {Slot::Case, 3, {{358, 246, 42, 46}, {193, 60}}},  // a picture in a golden frame
+    {Slot::Case, 0, {{280, 256, 58, 18}, {136, 163}}},   // the place kept for it
+    {Slot::Case, 3, {{358, 246, 42, 46}, {193, 60}}},    // a picture in a golden frame
+    {Slot::Case, 3, {{190, 296, 52, 15}, {382, 182.5}}}, // the half-open drawer is full
     {Slot::Screen, 0, {{210, 208, 68, 72}, {200, 106}}},
     {Slot::Screen, 1, {{245, 0, 62, 58}, {200, 118}}},
     {Slot::Screen, 2, {{68, 0, 78, 73}, {186, 104}}},
@@ -50,6 +51,7 @@ constexpr Thing Things[]{
     {Slot::Discs, 1, {{164, 187, 30, 13}, {82, 168}}},
     {Slot::Discs, 2, {{287, 161, 28, 21}, {84, 160}}},
     {Slot::Discs, 3, {{212, 127, 34, 29}, {78, 152}}},
+    {Slot::Scanner, 0, {{0, 296, 96, 38}, {12, 144}}}, // tea, and programs on paper
     {Slot::Scanner, 1, {{0, 187, 76, 18}, {2, 164}}},
     {Slot::Scanner, 2, {{317, 161, 66, 20}, {18, 162}}},
     {Slot::Scanner, 3, {{0, 127, 82, 32}, {8, 150}}},
@@ -74,6 +76,7 @@ constexpr Cut Glad{{60, 208, 58, 66}, {288, 64}};
 /// The corner of the wallpaper that is mended before anything else is bought.
 constexpr Cut TornWallpaper{{360, 208, 40, 38}, {478, 57}};
 constexpr int DiplomasOverTear = 4;
+constexpr Cut Bachelor{{98, 296, 90, 34}, {390, 94}};
 constexpr Cut Bride{{84, 127, 32, 32}, {392, 95}};
 constexpr Cut Wedding{{118, 127, 36, 32}, {390, 95}};
 constexpr QRectF Boys[]{{155, 161, 20, 23}, {177, 161, 20, 23}};
@@ -121,6 +124,8 @@ void DrawFamily(QPainter& painter, const QImage& sheet, const RoomLook& look)
         Draw(painter, sheet, Wedding);
     } else if (look.bride) {
         Draw(painter, sheet, Bride);
+    } else if (look.sons + look.daughters == 0) {
+        Draw(painter, sheet, Bachelor);
     }
     std::for_each_n(Boys, look.sons, portrait);
     std::for_each_n(Girls, look.daughters, portrait);
