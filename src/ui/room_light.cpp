@@ -34,7 +34,7 @@ struct Hour {
 constexpr Hour Hours[]{
     {0xFF2C3A60, 0xFF101C38, 1.0},  // night
     {0xFF646080, 0xFF5A3844, 0.7},  // dawn
-    {0xFFDCD6D0, 0xFF282C30, 0.0},  // day
+    {0xFFD0CCCA, 0xFF2C3034, 0.0},  // day
     {0xFF504668, 0xFF6A3A20, 0.85}, // dusk
     {0xFF2E3E68, 0xFF121C38, 1.0},  // evening
 };
@@ -43,8 +43,9 @@ constexpr Light Window{{70, 120}, 300, 150, 0};
 constexpr Light Lamp[]{
     {{284, 162}, 160, 124, 0xFF7A521E},
     {{290, 134}, 330, 176, 0xFF684418},
-    {{284, 170}, 92, 52, 0xFF34220A},
+    {{284, 178}, 128, 60, 0xFF3C280C},
 };
+constexpr Light Lamps{{432, 58}, 190, 120, 0xFF382818}; ///< the string of little ones
 constexpr Light Screen{{290, 134}, 56, 52, 0xFF0A2436};
 
 constexpr struct {
@@ -88,6 +89,9 @@ void EachLight(const RoomLook& look, Use use)
             use(lamp, hour.lamp);
         }
     }
+    if (look.Part(Slot::Case) >= LampsFromCase && hour.lamp > 0) {
+        use(Lamps, hour.lamp);
+    }
     if (look.Running() && hour.lamp > 0) {
         use(Screen, 1.0);
     }
@@ -118,7 +122,7 @@ void Shine(QPainter& painter, const Light& light, double strength)
 void AddSun(QPainter& painter, const RoomLook& look)
 {
     const bool pale = look.season == Season::Winter;
-    const QColor sun = pale ? QColor(0x14, 0x1A, 0x20) : QColor(0x58, 0x4C, 0x30);
+    const QColor sun = pale ? QColor(0x14, 0x1A, 0x20) : QColor(0x6C, 0x58, 0x30);
     QLinearGradient fall(QPointF(120, 76), QPointF(390, 190));
     fall.setColorAt(0, sun);
     fall.setColorAt(1, Qt::black);

@@ -35,6 +35,7 @@ constexpr Thing Things[]{
     {Slot::Case, 0, {{280, 256, 58, 18}, {136, 163}}},   // the place kept for it
     {Slot::Case, 3, {{358, 246, 42, 46}, {193, 60}}},    // a picture in a golden frame
     {Slot::Case, 3, {{190, 296, 52, 15}, {382, 182.5}}}, // the half-open drawer is full
+    {Slot::Case, 3, {{244, 288, 34, 48}, {355, 72}}},    // a golden disc
     {Slot::Screen, 0, {{210, 208, 68, 72}, {200, 106}}},
     {Slot::Screen, 1, {{245, 0, 62, 58}, {200, 118}}},
     {Slot::Screen, 2, {{68, 0, 78, 73}, {186, 104}}},

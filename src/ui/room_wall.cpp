@@ -123,12 +123,6 @@ void EachLamp(Use use)
     }
 }
 
-/// They come with the first good machine.
-bool HasLamps(const RoomLook& look)
-{
-    return look.Part(Slot::Case) >= 2;
-}
-
 void PaintLamps(QPainter& painter)
 {
     painter.setBrush(Qt::NoBrush);
@@ -153,7 +147,7 @@ void PaintLamps(QPainter& painter)
 
 void PaintLampsGlow(QPainter& painter, const RoomLook& look, double strength)
 {
-    if (!HasLamps(look)) {
+    if (look.Part(Slot::Case) < LampsFromCase) {
         return;
     }
     constexpr double Reach = 11;
@@ -179,7 +173,7 @@ void PaintWall(QPainter& painter, const RoomLook& look)
 {
     painter.save();
     PaintLeaf(painter, look);
-    if (HasLamps(look)) {
+    if (look.Part(Slot::Case) >= LampsFromCase) {
         PaintLamps(painter);
     }
     for (int i = 0; i < look.diplomas; ++i) {

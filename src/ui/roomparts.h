@@ -21,6 +21,8 @@ void PaintLight(QPainter& painter, const RoomLook& look);
 /// The shine of the bulb and of the screen in the air.
 void PaintGlow(QPainter& painter, const RoomLook& look);
 
+/// The string of little lamps comes with the first good machine.
+inline constexpr int LampsFromCase = 2;
 /// The calendar's leaf, the diplomas, the string of little lamps.
 void PaintWall(QPainter& painter, const RoomLook& look);
 /// The shine of those lamps, at a strength of 0..1.
