@@ -150,15 +150,14 @@ void PaintLampsGlow(QPainter& painter, const RoomLook& look, double strength)
     if (look.Part(Slot::Case) < LampsFromCase) {
         return;
     }
-    constexpr double Reach = 11;
+    constexpr double Reach = 8;
     painter.save();
     painter.setPen(Qt::NoPen);
-    painter.setCompositionMode(QPainter::CompositionMode_Screen);
     EachLamp([&](QPointF place, QColor colour) {
         QRadialGradient halo(place, Reach);
-        colour.setAlphaF(static_cast<float>(0.75 * strength));
+        colour.setAlphaF(static_cast<float>(0.8 * strength));
         halo.setColorAt(0, colour);
-        colour.setAlphaF(static_cast<float>(0.22 * strength));
+        colour.setAlphaF(static_cast<float>(0.3 * strength));
         halo.setColorAt(0.3, colour);
         colour.setAlphaF(0);
         halo.setColorAt(1, colour);
