@@ -149,14 +149,14 @@ void PaintCatEyes(QPainter& painter)
 /// The edges of the hero that look at the lamp, and at the screen.
 void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
 {
-    QPainterPath warm(QPointF(301.8, 85)); // the hair over the brow
-    warm.cubicTo(299.8, 88.4, 300, 91.6, 302.6, 94.2);
-    warm.cubicTo(301.8, 91.6, 301.4, 88.4, 301.8, 85);
-    warm.moveTo(308.4, 104.5); // the nose
-    warm.cubicTo(307.2, 108, 304.4, 110.8, 303.8, 113.2);
-    warm.cubicTo(303.4, 115.4, 304.6, 117, 306.4, 117);
-    warm.cubicTo(305.4, 115.6, 305, 114, 305.6, 112);
-    warm.cubicTo(306.6, 109.4, 308, 107, 308.4, 104.5);
+    QPainterPath warm(QPointF(301.8, 87)); // the hair over the brow
+    warm.cubicTo(299.8, 90.4, 300, 93.6, 302.6, 96.2);
+    warm.cubicTo(301.8, 93.6, 301.4, 90.4, 301.8, 87);
+    warm.moveTo(308.4, 106.5); // the nose
+    warm.cubicTo(307.2, 110, 304.4, 112.8, 303.8, 115.2);
+    warm.cubicTo(303.4, 117.4, 304.6, 119, 306.4, 119);
+    warm.cubicTo(305.4, 117.6, 305, 116, 305.6, 114);
+    warm.cubicTo(306.6, 111.4, 308, 109, 308.4, 106.5);
     warm.moveTo(300, 141.2); // the far sleeve
     warm.cubicTo(291, 144.6, 284.6, 153, 282, 165.4);
     warm.cubicTo(286, 155.4, 291.4, 147.6, 300, 141.2);
@@ -173,9 +173,9 @@ void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
     painter.setCompositionMode(QPainter::CompositionMode_Screen);
     painter.fillPath(warm, QColor(255, 190, 108, static_cast<int>(150 * lamp)));
     if (look.Running()) {
-        QPainterPath cool(QPointF(304.2, 118.5)); // mouth and jaw
-        cool.cubicTo(304.4, 123.4, 306.4, 128.8, 311.6, 130.6);
-        cool.cubicTo(308.2, 128, 306.2, 123.8, 304.2, 118.5);
+        QPainterPath cool(QPointF(304.2, 120.5)); // mouth and jaw
+        cool.cubicTo(304.4, 125.4, 306.4, 130.8, 311.6, 132.6);
+        cool.cubicTo(308.2, 130, 306.2, 125.8, 304.2, 120.5);
         painter.fillPath(cool, QColor(110, 214, 240, 95));
     }
     painter.restore();

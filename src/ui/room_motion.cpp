@@ -23,10 +23,10 @@ void PaintBlink(QPainter& painter, const RoomLook& look, int step)
     if (!EyesClosed(step)) {
         return;
     }
-    const QColor light = LightAt(look, {312, 106});
+    const QColor light = LightAt(look, {312, 107});
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(319, 104); // where the head was drawn, and how
+    painter.translate(319, 106); // where the head was drawn, and how
     painter.rotate(-4);
     constexpr struct {
         double left, right, y;
@@ -147,7 +147,7 @@ bool TrafficMoves(const RoomLook& look, int before, int step)
 }
 
 constexpr RoomMotion Motions[]{
-    {{300, 96, 26, 16}, PaintBlink, BlinkMoves},
+    {{300, 98, 26, 16}, PaintBlink, BlinkMoves},
     {{14, 60, 94, 93}, PaintSnow, SnowMoves},
     {{106, 124, 19, 8}, PaintCat, CatMoves},
     {{380, 143, 16, 18}, PaintSteam, SteamMoves},

@@ -72,8 +72,8 @@ constexpr Thing Things[]{
 constexpr Cut PaperKeyboard{{120, 240, 88, 30}, {226, 154}};
 constexpr Cut Keyboard{{120, 208, 88, 30}, {226, 154}};
 // The hero's other faces, laid over the one in the picture.
-constexpr Cut Worried{{0, 208, 58, 66}, {288, 64}};
-constexpr Cut Glad{{60, 208, 58, 66}, {288, 64}};
+constexpr Cut Worried{{0, 208, 58, 70}, {288, 64}};
+constexpr Cut Glad{{60, 208, 58, 70}, {288, 64}};
 /// The corner of the wallpaper that is mended before anything else is bought.
 constexpr Cut TornWallpaper{{360, 208, 40, 38}, {478, 57}};
 constexpr int DiplomasOverTear = 4;
