@@ -187,14 +187,17 @@ void PaintLampGlow(QPainter& painter, const RoomLook& look, double lamp)
         PaintCatEyes(painter);
     }
     QLinearGradient air(QPointF(262, 100), QPointF(284, 178));
-    air.setColorAt(0, QColor(255, 206, 132, static_cast<int>(86 * lamp)));
-    air.setColorAt(0.5, QColor(255, 190, 110, static_cast<int>(34 * lamp)));
+    air.setColorAt(0, QColor(255, 206, 132, static_cast<int>(34 * lamp)));
+    air.setColorAt(0.5, QColor(255, 190, 110, static_cast<int>(13 * lamp)));
     air.setColorAt(1, QColor(255, 180, 90, 0));
-    QPainterPath cone;
-    cone.addPolygon(QPolygonF{{254, 106}, {275.5, 97}, {346, 180}, {272, 180}});
     painter.save();
     painter.setCompositionMode(QPainter::CompositionMode_Screen);
-    painter.fillPath(cone, air);
+    for (const double wider : {-9.0, 0.0, 9.0}) { // a beam has no edge
+        QPainterPath cone;
+        cone.addPolygon(
+            QPolygonF{{254, 106}, {275.5, 97}, {346 + 1.6 * wider, 180}, {272 - wider, 180}});
+        painter.fillPath(cone, air);
+    }
     painter.restore();
     PaintRims(painter, look, lamp);
     Shine(painter, {{263, 102}, 62, 50, 0xFF5A3C1A}, lamp);

@@ -32,7 +32,7 @@ struct Thing {
 /// In the order of drawing: from the wall to the desk's edge. Level 0 is what
 /// stands in for a thing that there is no money for yet.
 constexpr Thing Things[]{
-    {Slot::Case, 0, {{280, 256, 58, 18}, {136, 163}}},   // the place kept for it
+    {Slot::Case, 0, {{280, 256, 58, 18}, {147, 163}}},   // the place kept for it
     {Slot::Case, 3, {{358, 246, 42, 46}, {193, 60}}},    // a picture in a golden frame
     {Slot::Case, 3, {{190, 296, 52, 15}, {382, 182.5}}}, // the half-open drawer is full
     {Slot::Case, 3, {{244, 288, 34, 48}, {355, 72}}},    // a golden disc
