@@ -187,12 +187,12 @@ void PaintLampGlow(QPainter& painter, const RoomLook& look, double lamp)
         PaintCatEyes(painter);
     }
     QLinearGradient air(QPointF(262, 100), QPointF(284, 178));
-    air.setColorAt(0, QColor(255, 206, 132, static_cast<int>(34 * lamp)));
-    air.setColorAt(0.5, QColor(255, 190, 110, static_cast<int>(13 * lamp)));
+    air.setColorAt(0, QColor(255, 206, 132, static_cast<int>(36 * lamp)));
+    air.setColorAt(0.5, QColor(255, 190, 110, static_cast<int>(14 * lamp)));
     air.setColorAt(1, QColor(255, 180, 90, 0));
     painter.save();
-    painter.setCompositionMode(QPainter::CompositionMode_Screen);
-    for (const double wider : {-9.0, 0.0, 9.0}) { // a beam has no edge
+    painter.setCompositionMode(QPainter::CompositionMode_Plus);
+    for (const double wider : {-7.0, 7.0}) { // a beam has no hard edge
         QPainterPath cone;
         cone.addPolygon(
             QPolygonF{{254, 106}, {275.5, 97}, {346 + 1.6 * wider, 180}, {272 - wider, 180}});
