@@ -29,8 +29,14 @@ struct Thing {
     Cut cut;
 };
 
-/// In the order of drawing: from the wall to the desk's edge.
+/// In the order of drawing: from the wall to the desk's edge. Level 0 is what
+/// stands in for a thing that there is no money for yet.
 constexpr Thing Things[]{
+    {Slot::Case, 0, {{280, 256, 58, 18}, {147, 163}}},   // the place kept for it
+    {Slot::Case, 3, {{358, 246, 42, 46}, {193, 60}}},    // a picture in a golden frame
+    {Slot::Case, 3, {{190, 296, 52, 15}, {382, 182.5}}}, // the half-open drawer is full
+    {Slot::Case, 3, {{244, 288, 34, 48}, {355, 72}}},    // a golden disc
+    {Slot::Screen, 0, {{210, 208, 68, 72}, {200, 106}}},
     {Slot::Screen, 1, {{245, 0, 62, 58}, {200, 118}}},
     {Slot::Screen, 2, {{68, 0, 78, 73}, {186, 104}}},
     {Slot::Screen, 3, {{0, 0, 66, 74}, {198, 103}}},
@@ -46,9 +52,11 @@ constexpr Thing Things[]{
     {Slot::Discs, 1, {{164, 187, 30, 13}, {82, 168}}},
     {Slot::Discs, 2, {{287, 161, 28, 21}, {84, 160}}},
     {Slot::Discs, 3, {{212, 127, 34, 29}, {78, 152}}},
+    {Slot::Scanner, 0, {{0, 296, 96, 38}, {12, 144}}}, // tea, and programs on paper
     {Slot::Scanner, 1, {{0, 187, 76, 18}, {2, 164}}},
     {Slot::Scanner, 2, {{317, 161, 66, 20}, {18, 162}}},
     {Slot::Scanner, 3, {{0, 127, 82, 32}, {8, 150}}},
+    {Slot::Printer, 0, {{280, 208, 76, 46}, {438, 138}}}, // adverts and savings
     {Slot::Printer, 1, {{226, 76, 72, 45}, {444, 138}}},
     {Slot::Printer, 2, {{0, 76, 72, 49}, {444, 134}}},
     {Slot::Printer, 3, {{74, 76, 74, 49}, {442, 134}}},
@@ -60,10 +68,16 @@ constexpr Thing Things[]{
     {Slot::Memory, 3, {{119, 161, 34, 23}, {482, 104}}},
 };
 
-constexpr Cut Keyboard{{317, 127, 80, 24}, {228, 158}}; // and the hands on it
+// The hands come with what they type on: paper, or a real one.
+constexpr Cut PaperKeyboard{{120, 240, 88, 30}, {226, 154}};
+constexpr Cut Keyboard{{120, 208, 88, 30}, {226, 154}};
 // The hero's other faces, laid over the one in the picture.
-constexpr Cut Worried{{150, 76, 36, 48}, {294, 86}};
-constexpr Cut Glad{{188, 76, 36, 48}, {294, 86}};
+constexpr Cut Worried{{0, 208, 58, 70}, {288, 64}};
+constexpr Cut Glad{{60, 208, 58, 70}, {288, 64}};
+/// The corner of the wallpaper that is mended before anything else is bought.
+constexpr Cut TornWallpaper{{360, 208, 40, 38}, {478, 57}};
+constexpr int DiplomasOverTear = 4;
+constexpr Cut Bachelor{{98, 296, 90, 34}, {390, 94}};
 constexpr Cut Bride{{84, 127, 32, 32}, {392, 95}};
 constexpr Cut Wedding{{118, 127, 36, 32}, {390, 95}};
 constexpr QRectF Boys[]{{155, 161, 20, 23}, {177, 161, 20, 23}};
@@ -72,13 +86,6 @@ constexpr QPointF FirstChild{420, 104};
 constexpr double ChildStep = 14.6;
 /// The second speaker is the first one's mirror image about this line.
 constexpr double SpeakersMiddle = 303;
-
-bool AnythingToShow(const RoomLook& look)
-{
-    return look.mood != Mood::Calm || look.bride || look.wedding ||
-           look.sons + look.daughters > 0 ||
-           std::ranges::any_of(look.parts, [](int level) { return level > 0; });
-}
 
 const QImage& Sheet(bool large)
 {
@@ -118,6 +125,8 @@ void DrawFamily(QPainter& painter, const QImage& sheet, const RoomLook& look)
         Draw(painter, sheet, Wedding);
     } else if (look.bride) {
         Draw(painter, sheet, Bride);
+    } else if (look.sons + look.daughters == 0) {
+        Draw(painter, sheet, Bachelor);
     }
     std::for_each_n(Boys, look.sons, portrait);
     std::for_each_n(Girls, look.daughters, portrait);
@@ -127,10 +136,11 @@ void DrawFamily(QPainter& painter, const QImage& sheet, const RoomLook& look)
 
 void PaintThings(QPainter& painter, const RoomLook& look, double pixelRatio)
 {
-    if (!AnythingToShow(look)) {
-        return;
-    }
     const QImage& sheet = Sheet(UnitScale() * pixelRatio > SheetScale);
+    const bool poor = look.Part(Slot::Case) == 0;
+    if (poor && look.diplomas < DiplomasOverTear) {
+        Draw(painter, sheet, TornWallpaper);
+    }
     if (look.mood != Mood::Calm) {
         Draw(painter, sheet, look.mood == Mood::Glad ? Glad : Worried);
     }
@@ -143,9 +153,7 @@ void PaintThings(QPainter& painter, const RoomLook& look, double pixelRatio)
             DrawMirrored(painter, sheet, thing.cut);
         }
     }
-    if (look.Part(Slot::Case) > 0) {
-        Draw(painter, sheet, Keyboard);
-    }
+    Draw(painter, sheet, poor ? PaperKeyboard : Keyboard);
     DrawFamily(painter, sheet, look);
 }
 
