@@ -82,7 +82,7 @@ int main(int argc, char** argv)
             QCoreApplication::exit(TakeTour(frontEnd, options.tourFolder, options.scale));
         } else {
             application.KeepLives();
-            EnterRules([&] { Main(Utf8(options.savedGame)); });
+            EnterRules([&] { MainWith(Utf8(options.savedGame)); });
         }
     });
     return application.exec();

@@ -175,7 +175,12 @@ bool GoesOnWith(const std::string& savedGame)
 
 } // namespace
 
-void Main(const std::string& savedGame)
+void Main()
+{
+    MainWith({});
+}
+
+void MainWith(const std::string& savedGame)
 {
     DeleteStraySaves();
     bool goesOn = false;

@@ -7,8 +7,10 @@ namespace torvenhall
 
 /// The program's own logic begins here: offers to go on with a life that was
 /// in hand when a program stopped without its normal end, paused; else a new
-/// game, or the saved one whose path is given, paused.
-void Main(const std::string& savedGame = {});
+/// game.
+void Main();
+/// The same with a saved game, by its path, instead of a new one; paused.
+void MainWith(const std::string& savedGame);
 
 /// Closes every window, asks for name and difficulty (cancelling ends the
 /// program and keeps the life before) and begins a life with the starting
