@@ -1,10 +1,6 @@
-#include <QImage>
-
 #include <algorithm>
-#include <utility>
 
 #include "ui/roomparts.h"
-#include "ui/widgets/metrics.h"
 #include "ui/widgets/pictures.h"
 
 namespace torvenhall
@@ -12,10 +8,6 @@ namespace torvenhall
 
 namespace
 {
-
-/// The sheet's own size in units; above this scale its larger copy is the sharper.
-constexpr double SheetWidth = 400;
-constexpr double SheetScale = 2;
 
 /// Where a drawing is cut out of the sheet, and where it stands in the room.
 struct Cut {
@@ -87,46 +79,33 @@ constexpr double ChildStep = 14.6;
 /// The second speaker is the first one's mirror image about this line.
 constexpr double SpeakersMiddle = 303;
 
-const QImage& Sheet(bool large)
+void Draw(QPainter& painter, const Cut& cut)
 {
-    static QImage sheet;
-    static bool isLarge = false;
-    if (std::exchange(isLarge, large) != large || sheet.isNull()) {
-        sheet = QImage::fromData(EmbeddedPicture(large ? "MAINTHINGS4" : "MAINTHINGS"), "png")
-                    .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    }
-    return sheet;
+    DrawCutOut(painter, "THINGS", cut.source, QRectF(cut.place, cut.source.size()));
 }
 
-void Draw(QPainter& painter, const QImage& sheet, const Cut& cut)
-{
-    const double fine = sheet.width() / SheetWidth;
-    painter.drawImage(QRectF(cut.place, cut.source.size()), sheet,
-                      QRectF(cut.source.topLeft() * fine, cut.source.size() * fine));
-}
-
-void DrawMirrored(QPainter& painter, const QImage& sheet, const Cut& cut)
+void DrawMirrored(QPainter& painter, const Cut& cut)
 {
     painter.save();
     painter.translate(2 * SpeakersMiddle, 0);
     painter.scale(-1, 1);
-    Draw(painter, sheet, cut);
+    Draw(painter, cut);
     painter.restore();
 }
 
-void DrawFamily(QPainter& painter, const QImage& sheet, const RoomLook& look)
+void DrawFamily(QPainter& painter, const RoomLook& look)
 {
     QPointF place = FirstChild;
     const auto portrait = [&](const QRectF& source) {
-        Draw(painter, sheet, {source, place});
+        Draw(painter, {source, place});
         place.rx() += ChildStep;
     };
     if (look.wedding) {
-        Draw(painter, sheet, Wedding);
+        Draw(painter, Wedding);
     } else if (look.bride) {
-        Draw(painter, sheet, Bride);
+        Draw(painter, Bride);
     } else if (look.sons + look.daughters == 0) {
-        Draw(painter, sheet, Bachelor);
+        Draw(painter, Bachelor);
     }
     std::for_each_n(Boys, look.sons, portrait);
     std::for_each_n(Girls, look.daughters, portrait);
@@ -134,27 +113,26 @@ void DrawFamily(QPainter& painter, const QImage& sheet, const RoomLook& look)
 
 } // namespace
 
-void PaintThings(QPainter& painter, const RoomLook& look, double pixelRatio)
+void PaintThings(QPainter& painter, const RoomLook& look)
 {
-    const QImage& sheet = Sheet(UnitScale() * pixelRatio > SheetScale);
     const bool poor = look.Part(Slot::Case) == 0;
     if (poor && look.diplomas < DiplomasOverTear) {
-        Draw(painter, sheet, TornWallpaper);
+        Draw(painter, TornWallpaper);
     }
     if (look.mood != Mood::Calm) {
-        Draw(painter, sheet, look.mood == Mood::Glad ? Glad : Worried);
+        Draw(painter, look.mood == Mood::Glad ? Glad : Worried);
     }
     for (const Thing& thing : Things) {
         if (look.Part(thing.slot) != thing.level) {
             continue;
         }
-        Draw(painter, sheet, thing.cut);
+        Draw(painter, thing.cut);
         if (thing.slot == Slot::Sound) {
-            DrawMirrored(painter, sheet, thing.cut);
+            DrawMirrored(painter, thing.cut);
         }
     }
-    Draw(painter, sheet, poor ? PaperKeyboard : Keyboard);
-    DrawFamily(painter, sheet, look);
+    Draw(painter, poor ? PaperKeyboard : Keyboard);
+    DrawFamily(painter, look);
 }
 
 } // namespace torvenhall

@@ -28,7 +28,7 @@ void PaintWall(QPainter& painter, const RoomLook& look);
 /// The shine of those lamps, at a strength of 0..1.
 void PaintLampsGlow(QPainter& painter, const RoomLook& look, double strength);
 /// What is owned and the family's photos, with their shadows.
-void PaintThings(QPainter& painter, const RoomLook& look, double pixelRatio);
+void PaintThings(QPainter& painter, const RoomLook& look);
 
 /// The visible glass.
 const QPainterPath& Panes();

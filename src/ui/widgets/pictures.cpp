@@ -8,6 +8,7 @@
 #include <QResource>
 #include <QtMath>
 
+#include <cmath>
 #include <utility>
 
 #include "resources/modJpegInside.h"
@@ -103,7 +104,7 @@ void DrawCutOut(QPainter& painter, std::string_view sheet, const QRectF& piece, 
 {
     // How many pixels of the sheet and of the screen make a unit of the sheet.
     constexpr int usual = 2, large = 4;
-    const double wanted = painter.deviceTransform().m11() * place.width() / piece.width();
+    const double wanted = std::abs(painter.deviceTransform().m11()) * place.width() / piece.width();
     const int fine = wanted > usual ? large : usual;
     static QHash<QString, QImage> decoded;
     QImage& cutOuts = decoded[Text(sheet)];
