@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdio>
 #include <functional>
 #include <iomanip>
 #include <sstream>
@@ -18,17 +17,24 @@ constexpr double Width = 320, Height = 190;          ///< of a chart's inside, i
 constexpr double Left = 56, Top = 54;                ///< of the first chart's inside
 constexpr double ColumnWidth = 410, RowHeight = 250; ///< from chart to chart
 constexpr double DaysOfMonth = 365.0 / 12;
+constexpr double StartingMoney = 15;
 
 /// Colours that the colour-blind tell apart, too, on white.
 constexpr std::array<std::string_view, 8> Colours{"#0072b2", "#d55e00", "#009e73", "#cc79a7",
                                                   "#7a5195", "#8a6d00", "#56b4e9", "#444444"};
 
-/// What a chart shows of the months, bounded by its highest value.
+/// What stands beside a line of the grid.
+struct Mark {
+    double height; ///< 0 below, 1 above
+    std::string label;
+};
+
+/// What a chart shows of the months, as a height or nothing.
 struct Chart {
     std::string_view title;
-    double most;
-    bool percent;
-    std::function<std::optional<double>(const Figures&, int month)> value;
+    std::vector<Mark> marks;
+    double step; ///< months from point to point
+    std::function<std::optional<double>(const Figures&, double month)> height;
 };
 
 void Text(std::ostream& svg, double x, double y, std::string_view words, std::string_view more = {})
@@ -36,44 +42,30 @@ void Text(std::ostream& svg, double x, double y, std::string_view words, std::st
     svg << "<text x=\"" << x << "\" y=\"" << y << "\" " << more << '>' << words << "</text>\n";
 }
 
-/// The last month in which anything still changes, a round number of years.
+/// The month by which nearly all who ended had done so, and one or two more.
 int MonthsShown(const Options& options, std::span<const Figures> all)
 {
-    int last = 12;
+    std::vector<int> days{0};
     for (const Figures& figures : all) {
         for (const Story& story : figures.stories) {
             if (story.end != End::Alive) {
-                last = std::max(last, static_cast<int>(story.days / DaysOfMonth) + 1);
+                days.push_back(story.days);
             }
         }
     }
+    const auto nearlyLast =
+        days.begin() + static_cast<std::ptrdiff_t>(0.995 * static_cast<double>(days.size() - 1));
+    std::ranges::nth_element(days, nearlyLast);
     const int most = std::min(MonthsRemembered, 12 * options.years);
-    return std::min(most, (last + 11) / 12 * 12);
-}
-
-/// A step that makes about five marks.
-double StepOf(double most)
-{
-    const double rough = most / 5;
-    const double power = std::pow(10, std::floor(std::log10(rough)));
-    for (const double factor : {1.0, 2.0, 5.0}) {
-        if (rough <= factor * power) {
-            return factor * power;
-        }
-    }
-    return 10 * power;
+    return std::clamp(static_cast<int>(*nearlyLast / DaysOfMonth) + 2, 6, most);
 }
 
 /// The grid of a chart and its marks.
 void Frame(std::ostream& svg, const Chart& chart, int months, double x, double y)
 {
-    const double step = StepOf(chart.most);
-    for (double mark = 0; mark <= chart.most * 1.001; mark += step) {
-        const double at = y + Height * (1 - mark / chart.most);
+    for (const auto& [height, label] : chart.marks) {
+        const double at = y + Height * (1 - height);
         svg << "<path class=\"grid\" d=\"M" << x << ' ' << at << 'h' << Width << "\"/>\n";
-        char label[32];
-        std::snprintf(label, sizeof label, chart.percent ? "%.0f %%" : "$%.0f",
-                      chart.percent ? 100 * mark : mark);
         Text(svg, x - 6, at + 4, label, "text-anchor=\"end\"");
     }
     const int every = std::max(1, months / 12);
@@ -88,50 +80,56 @@ void Curve(std::ostream& svg, const Chart& chart, const Figures& figures, int mo
            double y, std::string_view colour)
 {
     svg << "<path class=\"curve\" stroke=\"" << colour << "\" d=\"";
-    for (int month = 0; month <= months; ++month) {
-        const std::optional<double> value = chart.value(figures, month);
-        if (!value) {
+    for (double month = 0; month <= months; month += chart.step) {
+        const std::optional<double> height = chart.height(figures, month);
+        if (!height) {
             break;
         }
-        const double part = std::clamp(*value / chart.most, 0.0, 1.0);
         svg << (month == 0 ? 'M' : 'L') << x + Width * month / months << ' '
-            << y + Height * (1 - part);
+            << y + Height * (1 - *height);
     }
     svg << "\"/>\n";
 }
 
-int Day(int month)
+int Day(double month)
 {
     return static_cast<int>(month * DaysOfMonth);
 }
 
-std::vector<Chart> Charts(std::span<const Figures> all, int months)
+/// Ten dollars and ten thousand both show: the scale is a logarithm's.
+double HeightOfMoney(double dollars)
 {
-    double mostMoney = 1000;
-    const auto money = [](const Figures& figures, int month) -> std::optional<double> {
-        if (month == 0) {
-            return 15; // everybody begins so
-        }
-        // A few who are left over tell nothing.
-        constexpr int enough = 20;
-        if (month > MonthsRemembered ||
-            std::ranges::count_if(figures.stories, [=](const Story& story) {
-                return story.months >= month;
-            }) < enough) {
-            return std::nullopt;
-        }
-        return figures.MoneyAfter(month - 1, 0.5);
-    };
-    for (const Figures& figures : all) {
-        for (int month = 0; month <= months; ++month) {
-            mostMoney = std::max(mostMoney, money(figures, month).value_or(0));
-        }
+    constexpr double least = 10, most = 50000;
+    return std::clamp(std::log1p(dollars / least) / std::log1p(most / least), 0.0, 1.0);
+}
+
+/// A few who are left over tell nothing.
+std::optional<double> Money(const Figures& figures, double month)
+{
+    constexpr int enough = 20;
+    const auto months = static_cast<int>(month);
+    const auto playing = std::ranges::count_if(
+        figures.stories, [=](const Story& story) { return story.months >= months; });
+    if (months == 0 || playing < enough) {
+        return months == 0 ? std::optional(HeightOfMoney(StartingMoney)) : std::nullopt;
     }
-    return {{"Alive, or has won", 1, true,
-             [](const Figures& figures, int month) { return figures.AliveAfter(Day(month)); }},
-            {"Has won", 1, true,
-             [](const Figures& figures, int month) { return figures.WonBy(Day(month)); }},
-            {"Money of those who play, in the middle", mostMoney, false, money}};
+    return HeightOfMoney(std::max(0, figures.MoneyAfter(months - 1, 0.5).value_or(0)));
+}
+
+std::vector<Chart> Charts()
+{
+    const std::vector<Mark> percents{
+        {0, "0 %"}, {0.25, "25 %"}, {0.5, "50 %"}, {0.75, "75 %"}, {1, "100 %"}};
+    const std::vector<Mark> dollars{{0, "$0"},
+                                    {HeightOfMoney(10), "$10"},
+                                    {HeightOfMoney(100), "$100"},
+                                    {HeightOfMoney(1000), "$1000"},
+                                    {HeightOfMoney(10000), "$10000"}};
+    return {{"Alive, or has won", percents, 0.125,
+             [](const Figures& figures, double month) { return figures.AliveAfter(Day(month)); }},
+            {"Has won", percents, 0.125,
+             [](const Figures& figures, double month) { return figures.WonBy(Day(month)); }},
+            {"Money of those who play, in the middle", dollars, 1, Money}};
 }
 
 /// The charts of one level, one below the other.
@@ -170,7 +168,7 @@ void Legend(std::ostream& svg, const Options& options, double y)
 std::string CurvesOf(const Options& options, std::span<const Figures> all)
 {
     const int months = MonthsShown(options, all);
-    const std::vector<Chart> charts = Charts(all, months);
+    const std::vector<Chart> charts = Charts();
     const double legend = 110.0 * static_cast<double>(options.policies.size() + 1) + Left;
     const double width =
         std::max(legend, ColumnWidth * static_cast<double>(options.levels.size()) + 12);

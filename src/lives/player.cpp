@@ -22,6 +22,7 @@ namespace
 
 constexpr double TickSeconds = 0.25;
 constexpr int FastSpeed = 60;
+constexpr TimeOfDay LastHour{23, 0};
 constexpr double TimeToRead = 1; ///< a wait longer than that is for reading, not for typing
 constexpr std::string_view EveningGame = "evening";
 
@@ -75,6 +76,10 @@ Story Player::Live(int mostDays)
         } else if (!ProgramHasEnded() && GameState.GameDate != dateSeen) {
             SeeTheDay();
         }
+        // A message may have taken the whole day, but there is time to act first.
+        if (policy.loadsPerNight > 0 && GameState.GameTime == LastHour && !ProgramHasEnded()) {
+            SaveTheEvening();
+        }
     }
     return story;
 }
@@ -84,10 +89,6 @@ void Player::Tick()
     nextTick += TickSeconds;
     clock.seconds = std::max(clock.seconds, nextTick);
     EnterTick();
-    const bool lastHour = GameState.GameTime == TimeOfDay{23, 0};
-    if (policy.loadsPerNight > 0 && lastHour && !ProgramHasEnded() && !isDead) {
-        SaveTheEvening();
-    }
 }
 
 /// The player pauses the game and acts; the clock stands still meanwhile.

@@ -56,6 +56,7 @@ Table Ending(std::span<const Figures> all)
             };
             row.push_back(spread([&](double part) { return figures.AgeAt(End::Won, part); }));
             row.push_back(spread([&](double part) { return figures.AgeAtDeath(part); }));
+            row.push_back(std::to_string(figures.Loads()));
             return row;
         });
 }
@@ -138,8 +139,9 @@ void WriteLine(std::ostream& csv, const Story& story, int months)
 
 std::string Percent(double share)
 {
+    constexpr double rare = 0.0005;
     char text[16];
-    std::snprintf(text, sizeof text, "%.1f", 100 * share);
+    std::snprintf(text, sizeof text, share > 0 && share < rare ? "%.3f" : "%.1f", 100 * share);
     return text;
 }
 

@@ -23,7 +23,7 @@ std::string AsText(const Table& table);
 /// A line for each life; the money of each month at the end of it.
 std::string AsCsv(std::span<const Figures> all);
 
-/// "12.3", of a hundred.
+/// "12.3", of a hundred; "0.004" where it would be "0.0" and is not.
 std::string Percent(double share);
 
 } // namespace torvenhall::lives
