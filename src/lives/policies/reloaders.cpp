@@ -46,7 +46,7 @@ bool WasBad(const Game& evening, int /*loads*/)
 /// for; so many times, then the wear is borne.
 bool WasNotFree(const Game& evening, int loads)
 {
-    constexpr int patience = 25;
+    constexpr int patience = 8;
     return Fell(evening, !EarnsWell() && loads < patience ? 1 : MoreThanWear);
 }
 
