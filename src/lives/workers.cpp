@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <type_traits>
 
 #include <poll.h>
@@ -49,11 +51,11 @@ public:
     std::string path = (std::filesystem::temp_directory_path() / "torvenhall-XXXXXX").string();
 };
 
-bool WriteWhole(int pipe, const Story& story)
+bool WriteWhole(int pipe, std::span<const Story> stories)
 {
-    const char* bytes = reinterpret_cast<const char*>(&story);
-    for (std::size_t sent = 0; sent < sizeof story;) {
-        const ssize_t count = write(pipe, bytes + sent, sizeof story - sent);
+    const auto bytes = std::as_bytes(stories);
+    for (std::size_t sent = 0; sent < bytes.size();) {
+        const ssize_t count = write(pipe, bytes.data() + sent, bytes.size() - sent);
         if (count < 0 && errno != EINTR) {
             return false;
         }
@@ -82,12 +84,22 @@ bool ReadWhole(int pipe, Story& story)
     if (!folder.empty()) {
         std::filesystem::create_directory(folder);
     }
-    for (int task = first; task < TaskCount(options); task += options.jobs) {
-        if (!WriteWhole(pipe, PlayTask(options, task, folder))) {
-            _exit(1);
+    // Short lives are told a few at a time: each waking of the reader costs some.
+    using Clock = std::chrono::steady_clock;
+    constexpr std::size_t enough = 64;
+    constexpr std::chrono::milliseconds longest{50};
+    std::vector<Story> untold;
+    bool isHeard = true;
+    Clock::time_point told = Clock::now();
+    for (int task = first; isHeard && task < TaskCount(options); task += options.jobs) {
+        untold.push_back(PlayTask(options, task, folder));
+        if (untold.size() == enough || Clock::now() - told > longest) {
+            isHeard = WriteWhole(pipe, untold);
+            untold.clear();
+            told = Clock::now();
         }
     }
-    _exit(0);
+    _exit(isHeard && WriteWhole(pipe, untold) ? 0 : 1);
 }
 
 Worker Start(const Options& options, int first, const std::string& folder)
