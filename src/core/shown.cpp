@@ -15,7 +15,10 @@ Remembered<EnumArray<Label, ShownText>> shown;
 
 void ShowLabel(Label label, std::string_view text, TextColour colour)
 {
-    (*shown)[label] = {std::string(text), colour};
+    // In place: a message is shown anew with each of its letters.
+    ShownText& present = (*shown)[label];
+    present.text = text;
+    present.colour = colour;
     Windows().LabelChanged(label);
 }
 

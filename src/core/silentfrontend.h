@@ -6,8 +6,9 @@ namespace torvenhall
 {
 
 /// What the rules talk to once the program has ended: nothing is shown, and
-/// every question is as good as cancelled.
-class SilentFrontEnd final : public FrontEnd
+/// every question is as good as cancelled. Who plays without a screen begins
+/// with it.
+class SilentFrontEnd : public FrontEnd
 {
 public:
     void Run(const std::function<void()>& /*routine*/) override {}

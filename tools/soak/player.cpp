@@ -184,15 +184,6 @@ void Restore(const ServiceWindow& window, Stat stat)
 
 } // namespace
 
-/// The splitmix64 generator.
-std::uint64_t QuickDice::Next()
-{
-    std::uint64_t mixed = state += 0x9E3779B97F4A7C15U;
-    mixed = (mixed ^ (mixed >> 30U)) * 0xBF58476D1CE4E5B9U;
-    mixed = (mixed ^ (mixed >> 27U)) * 0x94D049BB133111EBU;
-    return mixed ^ (mixed >> 31U);
-}
-
 Player::Player(int playedLevel, std::uint64_t seed, std::string folderOfGames)
     : window(chance, playedLevel), chance(seed), dice(seed), level(playedLevel),
       folder(std::move(folderOfGames))

@@ -1,34 +1,15 @@
 #pragma once
 
-#include <bit>
 #include <chrono>
 #include <deque>
 #include <string>
 
+#include "core/quickdice.h"
 #include "system/calendar.h"
 #include "window.h"
 
 namespace torvenhall::soak
 {
-
-/// Dice that repeat themselves, those that are seeded from the system timer
-/// too, and that are seeded more quickly than the real ones: each tick does it.
-class QuickDice : public Dice
-{
-public:
-    explicit QuickDice(std::uint64_t seed) : state(seed) {}
-    float Rnd() override
-    {
-        return static_cast<float>(Next() >> 40U) / static_cast<float>(1U << 24U);
-    }
-    void Randomize(double value) override { state ^= std::bit_cast<std::uint64_t>(value); }
-    void Randomize() override { Next(); }
-
-private:
-    std::uint64_t Next();
-
-    std::uint64_t state;
-};
 
 /// Plays the game by chance, everything that its windows offer, and holds the
 /// invariants after each day and each action.
