@@ -44,6 +44,7 @@ void Application::Prepare()
     // than the whole game; the player's font size is read elsewhere.
     setDesktopSettingsAware(false);
     FindFontsQuickly();
+    GiveMemoryBack();
     setAttribute(Qt::AA_DontUseNativeDialogs);
     setAttribute(Qt::AA_DontUseNativeMenuBar);
 }

@@ -33,6 +33,10 @@ std::string GetWindowsDir();
 /// platform has no such store.
 bool GetKeyValue(const std::string& keyName, const std::string& valueName, std::string& value);
 
+/// From now on the memory of a closed window's picture goes back to the system at
+/// once, where the platform would keep it.
+void GiveMemoryBack();
+
 /// From now on a request to end the program (a logout, the terminal closed)
 /// does not end it but makes the returned descriptor readable. -1 where the
 /// platform has no such thing.

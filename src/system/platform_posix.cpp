@@ -6,6 +6,9 @@
 #include <utility>
 
 #include <fcntl.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -254,6 +257,15 @@ std::string PlatformNameTrouble(std::string_view name)
 {
     constexpr std::size_t longest = 255;
     return std::string(name.size() <= longest ? "" : NameTooLong);
+}
+
+void GiveMemoryBack()
+{
+#ifdef __GLIBC__
+    // A limit that is set does not grow with the first large block that is freed.
+    constexpr int large = 256 * 1024;
+    ::mallopt(M_MMAP_THRESHOLD, large);
+#endif
 }
 
 int WatchEndRequests()

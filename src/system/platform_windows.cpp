@@ -256,6 +256,8 @@ std::string PlatformNameTrouble(std::string_view name)
     return {};
 }
 
+void GiveMemoryBack() {} // it does by itself
+
 int WatchEndRequests()
 {
     return -1; // the toolkit is told of a logout by itself

@@ -4,6 +4,7 @@
 #include <boost/context/protected_fixedsize_stack.hpp>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #ifdef TORVENHALL_SANITIZE
@@ -22,6 +23,32 @@ namespace context = boost::context;
 // A window may be made and its picture decoded on it. Only pages in use cost
 // memory.
 constexpr std::size_t StackBytes = 1U << 20U;
+
+/// Keeps one stack that is free: most routines, each tick's for one, end before
+/// the next begins.
+class Stacks
+{
+public:
+    context::stack_context allocate()
+    {
+        if (spare) {
+            return *std::exchange(spare, std::nullopt);
+        }
+        return fresh.allocate();
+    }
+    void deallocate(context::stack_context& stack)
+    {
+        if (!spare) {
+            spare = stack;
+        } else {
+            fresh.deallocate(stack);
+        }
+    }
+
+private:
+    context::protected_fixedsize_stack fresh{StackBytes};
+    inline static std::optional<context::stack_context> spare;
+};
 
 /// The address sanitizer wants to know each change of stacks.
 class Switch
@@ -65,7 +92,7 @@ Routines::~Routines() = default;
 void Routines::Run(const std::function<void()>& body)
 {
     const auto routine = std::make_shared<Routine>();
-    context::protected_fixedsize_stack allocator(StackBytes);
+    Stacks allocator;
     const context::stack_context memory = allocator.allocate();
     routine->size = memory.size;
     routine->stack = static_cast<const char*>(memory.sp) - memory.size;
