@@ -1,0 +1,56 @@
+#!/usr/bin/env python3
+"""Measures the game against its floor and prints each figure with its bound.
+
+usage: measure.py BUILD [--only PART] [--rounds N] [--profile]
+
+Ends with 1 when a bound is missed. PART is one of start. --profile prints where
+the instructions of a start go, by library and by function.
+"""
+
+import argparse
+import sys
+from pathlib import Path
+
+from figures import start
+from figures.programs import Program
+from figures.table import Table
+
+SHIPPED = ("ANECDOT.DAT", "License.txt", "Readme.txt")
+
+
+def print_profile(program, lines=14):
+    for by, what in (("ob", "library"), ("fn", "function")):
+        print(f"\nWhere the instructions of {program.name} go, by {what} (million)")
+        for cost, name in program.profile(by)[:lines]:
+            print(f"    {cost / 1e6:8.2f}  {name.rsplit('/', 1)[-1][:110]}")
+
+
+def main():
+    options = argparse.ArgumentParser(usage=__doc__)
+    options.add_argument("build", type=Path)
+    options.add_argument("--only", choices=["start"])
+    options.add_argument("--rounds", type=int)
+    options.add_argument("--profile", action="store_true")
+    given = options.parse_args()
+
+    build = given.build.resolve()
+    probe = build / "bench" / "libprobe.so"
+    app = build / "src" / "app"
+    # The floor is as large as the main window is at scale 1.
+    game = Program("the game", app / "torvenhall", probe, ["--scale", "1"],
+                   [app / name for name in SHIPPED])
+    floor = Program("the floor", build / "bench" / "floor", probe)
+    table = Table()
+    try:
+        files = start.counted(table, game, floor)
+        if given.profile:
+            print_profile(game)
+            print_profile(floor)
+        start.timed(table, game, floor, files, given.rounds)
+    finally:
+        game.place.remove()
+        floor.place.remove()
+    return table.verdict()
+
+
+sys.exit(main())
