@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Measures the game against its floor and prints each figure with its bound.
 
-usage: measure.py BUILD [--only PART] [--rounds N] [--profile]
+usage: measure.py BUILD [--only PART] [--rounds N] [--minutes N] [--profile]
 
-Ends with 1 when a bound is missed. PART is one of start. --profile prints where
+Ends with 1 when a bound is missed. PART is start, idle, memory or clicks. --profile prints where
 the instructions of a start go, by library and by function.
 """
 
@@ -11,7 +11,7 @@ import argparse
 import sys
 from pathlib import Path
 
-from figures import start
+from figures import clicks, idle, memory, start
 from figures.programs import Program
 from figures.table import Table
 
@@ -28,8 +28,9 @@ def print_profile(program, lines=14):
 def main():
     options = argparse.ArgumentParser(usage=__doc__)
     options.add_argument("build", type=Path)
-    options.add_argument("--only", choices=["start"])
+    options.add_argument("--only", choices=["start", "idle", "memory", "clicks"])
     options.add_argument("--rounds", type=int)
+    options.add_argument("--minutes", type=float, default=3, help="of the memory's growth")
     options.add_argument("--profile", action="store_true")
     given = options.parse_args()
 
@@ -42,11 +43,18 @@ def main():
     floor = Program("the floor", build / "bench" / "floor", probe)
     table = Table()
     try:
-        files = start.counted(table, game, floor)
-        if given.profile:
-            print_profile(game)
-            print_profile(floor)
-        start.timed(table, game, floor, files, given.rounds)
+        if given.only in (None, "start"):
+            files = start.counted(table, game, floor)
+            if given.profile:
+                print_profile(game)
+                print_profile(floor)
+            start.timed(table, game, floor, files, given.rounds)
+        if given.only in (None, "clicks"):
+            clicks.figures(table, game, floor, given.rounds)
+        if given.only in (None, "idle"):
+            idle.figures(table, game, floor, given.rounds)
+        if given.only in (None, "memory"):
+            memory.figures(table, game, floor, given.minutes)
     finally:
         game.place.remove()
         floor.place.remove()

@@ -4,7 +4,8 @@
 //
 //   TORVENHALL_PROBE=FILE     where the notes go, a line each:
 //                             "put NS WINDOW WIDTH HEIGHT CPU_NS", "press NS",
-//                             "release NS"; times are CLOCK_MONOTONIC's
+//                             "release NS", "message NS" (of the window manager);
+//                             times are CLOCK_MONOTONIC's
 //   TORVENHALL_PROBE_END=1    the first window is on the display: end at once
 //
 // It names the toolkit's display library only by the symbols that it stands
@@ -34,7 +35,7 @@ constexpr int SmallestWindow = 20'000; // pixels
 
 // Of the X protocol.
 constexpr std::uint8_t KeyPress = 2, KeyRelease = 3, ButtonPress = 4, ButtonRelease = 5,
-                       Generic = 35;
+                       ClientMessage = 33, Generic = 35;
 constexpr std::uint8_t SentMark = 0x80;
 
 int notes = -1;
@@ -108,6 +109,8 @@ void Heard(const std::uint8_t* event)
         Note("press %lld\n", Nanoseconds(CLOCK_MONOTONIC));
     } else if (kind == ButtonRelease || kind == KeyRelease) {
         Note("release %lld\n", Nanoseconds(CLOCK_MONOTONIC));
+    } else if (kind == ClientMessage) {
+        Note("message %lld\n", Nanoseconds(CLOCK_MONOTONIC));
     }
 }
 
