@@ -117,6 +117,8 @@ def figures(table, game, floor, rounds):
                 "ms", 2)
     table.ratio("place in town painted, an empty dialog", of(game, "windows"),
                 of(floor, "windows"), 1.5, "ms")
+    table.told("the slowest of the places", max(of(game, "windows")), max(of(floor, "windows")),
+               "ms")
     table.limit("menu painted", of(game, "menus"), of(floor, "menus"), 2, "ms", 2)
     table.told("one durable write", write, None, "ms")
     bound = 1.5 * statistics.median(of(floor, "ends")) + write

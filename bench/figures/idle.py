@@ -14,12 +14,12 @@ class Watched:
 
     def __init__(self, session, seconds):
         time.sleep(SETTLING)
-        puts, woken = len(session.program.puts()), session.wakeups()
+        puts, slept = len(session.program.puts()), session.sleeps()
         spent, began = session.processor(), time.monotonic()
         time.sleep(seconds)
         span = time.monotonic() - began
         self.processor = (session.processor() - spent) / span
-        self.wakeups = (session.wakeups() - woken) / span
+        self.wakeups = session.wakeups_since(slept) / span
         new = session.program.puts()[puts:]
         self.repaints = len(new) / span
         self.pixels = sum(put.width * put.height for put in new) / span
@@ -46,7 +46,8 @@ def figures(table, game, floor, rounds):
         return [factor * getattr(watched, name) for watched in running[way]]
     table.ratio("processor", of("still", "processor", 100), of("floor", "processor", 100), 1.1,
                 "%", 3)
-    table.limit("wake-ups a second", of("still", "wakeups"), of("floor", "wakeups"), 12)
+    table.limit("wake-ups a second", of("still", "wakeups"), of("floor", "wakeups"), 12,
+                "", 0)
     table.ratio("repainted, 1000 pixels a second", of("still", "pixels", 1e-3),
                 of("floor", "pixels", 1e-3), 1.1)
     table.told("repaints a second", of("still", "repaints"), of("floor", "repaints"))

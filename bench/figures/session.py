@@ -1,7 +1,6 @@
 """A program that runs under a window manager, and the hand that uses it."""
 
 import os
-import signal
 import subprocess
 import time
 
@@ -51,14 +50,20 @@ class Session:
         """Seconds of the processor so far."""
         return time.clock_gettime((~self.process.pid << 3) | 2)
 
-    def wakeups(self):
-        """How often any of its threads has gone to sleep so far."""
-        total, folder = 0, f"/proc/{self.process.pid}/task"
+    def sleeps(self):
+        """How often each of its threads has gone to sleep so far."""
+        found, folder = {}, f"/proc/{self.process.pid}/task"
         for thread in os.listdir(folder):
             with open(f"{folder}/{thread}/status", encoding="ascii", errors="replace") as status:
-                total += sum(int(line.split()[1]) for line in status
-                             if line.startswith("voluntary_ctxt_switches"))
-        return total
+                found[thread] = sum(int(line.split()[1]) for line in status
+                                    if line.startswith("voluntary_ctxt_switches"))
+        return found
+
+    def wakeups_since(self, before):
+        """How often a thread has woken since; one that has ended did so once."""
+        now = self.sleeps()
+        return (sum(count - before.get(thread, 0) for thread, count in now.items()) +
+                len(before.keys() - now.keys()))
 
     def memory(self):
         """Proportional memory, MB."""
@@ -132,6 +137,3 @@ class Session:
         heard = max(self.last(kind) for kind in ("press", "message")
                     if any(note[0] == kind for note in self.program.notes()))
         return gone - heard
-
-    def interrupt(self):
-        self.process.send_signal(signal.SIGHUP)

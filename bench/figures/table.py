@@ -22,8 +22,8 @@ class Table:
                  f"{bound:.2f} x", ratio <= bound)
 
     def limit(self, what, game, floor, bound, unit="", digits=1):
-        """A bound that is a quantity."""
-        game = median(game)
+        """A bound that is a quantity, held in the digits that are shown."""
+        game = round(median(game), digits)
         told = "" if floor is None else shown(median(floor), unit, digits)
         self.row(what, shown(game, unit, digits), told, "", shown(bound, unit, digits),
                  game <= bound)
