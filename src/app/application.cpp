@@ -29,7 +29,9 @@ void ShowIcon()
     EmbeddedPicture({}); // registers the resources, the icons among them
     QIcon icon;
     for (const char* size : {"16", "32", "48", "128"}) {
-        icon.addFile(QString(":/icon/") + size);
+        // By a name alone the icon would ask what kind of file it is, and read the
+        // desktop's table of kinds for that.
+        icon.addPixmap(QPixmap(QString(":/icon/") + size, "PNG"));
     }
     QApplication::setWindowIcon(icon);
 }

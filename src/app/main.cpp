@@ -1,16 +1,17 @@
 // Builds the pieces, connects them and hands control to the game's own logic.
 
-#include <QCommandLineParser>
 #include <QDir>
 #include <QStandardPaths>
 #include <QTimer>
 
-#include <cstdlib>
+#include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <optional>
 #include <random>
 
 #include "app/application.h"
+#include "app/commandline.h"
 #include "app/recorder.h"
 #include "app/tour.h"
 #include "core/random.h"
@@ -27,41 +28,6 @@
 namespace
 {
 
-struct Options {
-    double fontPoints;
-    std::optional<double> scale; ///< the player's or the fitting one
-    QString tourFolder;          ///< empty: play
-    QString recordFile;          ///< empty: the game is not recorded
-    bool still = false;
-};
-
-Options ReadOptions(const QCoreApplication& application)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription("Torvenhall 1.5");
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption font("font-size", "Size of the desktop font in points.", "points");
-    const QCommandLineOption tour("tour", "Save a picture of every window in a folder.", "folder");
-    const QCommandLineOption scale("scale", "Size of everything: 1 to 4 times.", "factor");
-    const QCommandLineOption still("still", "Nothing moves by itself.");
-    const QCommandLineOption record("record", "Write down what the player does.", "file");
-    parser.addOptions({font, scale, tour, still, record});
-    parser.process(application);
-    const double points = parser.value(font).toDouble();
-    // The tour runs from wherever its pictures are wanted.
-    const QString folder = parser.value(tour);
-    const double factor = parser.value(scale).toDouble();
-    if (parser.isSet(scale) && !(factor >= 1 && factor <= 4)) {
-        std::cerr << "torvenhall: --scale wants a number from 1 to 4\n";
-        std::exit(2);
-    }
-    return {points > 0 ? points : torvenhall::DesktopFontPoints(),
-            parser.isSet(scale) ? std::optional(factor) : std::nullopt,
-            folder.isEmpty() ? folder : QDir::current().absoluteFilePath(folder),
-            parser.value(record), parser.isSet(still)};
-}
-
 /// The player's folder for this program's data. A relative one is to be
 /// ignored, by the desktops' convention; the game changes the current directory.
 QString UserDataFolder()
@@ -76,13 +42,22 @@ int main(int argc, char** argv)
 {
     using namespace torvenhall;
 
+    QStringList arguments;
+    std::transform(argv, argv + argc, std::back_inserter(arguments),
+                   [](const char* argument) { return QString::fromLocal8Bit(argument); });
+    const CommandLine options = ReadCommandLine(arguments);
+    if (options.ended) {
+        return *options.ended;
+    }
     Application::Prepare();
     Application application(argc, argv);
-    const Options options = ReadOptions(application);
-    SetDesktopFontPoints(options.fontPoints);
+    SetDesktopFontPoints(options.fontPoints > 0 ? options.fontPoints : DesktopFontPoints());
     ApplyTheme(application);
     FindDirectories(Utf8(QCoreApplication::applicationDirPath()), "../share/torvenhall",
                     Utf8(UserDataFolder()));
+    if (!options.dataFolder.isEmpty()) {
+        SetDirectories(ProgramDirectory(), Utf8(options.dataFolder));
+    }
 
     SetStillLife(options.still || !options.tourFolder.isEmpty() || DesktopIsStill());
     const bool touring = !options.tourFolder.isEmpty();
@@ -107,7 +82,7 @@ int main(int argc, char** argv)
             QCoreApplication::exit(TakeTour(frontEnd, options.tourFolder, options.scale));
         } else {
             application.KeepLives();
-            EnterRules(Main);
+            EnterRules([&] { MainWith(Utf8(options.savedGame)); });
         }
     });
     return application.exec();

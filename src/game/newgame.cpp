@@ -159,14 +159,33 @@ bool GoesOn()
     return false;
 }
 
+/// The same for a saved game that the program was begun with.
+bool GoesOnWith(const std::string& savedGame)
+{
+    if (savedGame.empty()) {
+        return false;
+    }
+    const SavedGame lines = DecodeGame(ReadWholeFile(savedGame));
+    const std::optional<Game> game = WholeGame(lines);
+    if (game) {
+        GoOnWith({.path = {}, .lock = {}, .lines = lines, .game = game});
+    }
+    return game.has_value();
+}
+
 } // namespace
 
 void Main()
 {
+    MainWith({});
+}
+
+void MainWith(const std::string& savedGame)
+{
     DeleteStraySaves();
     bool goesOn = false;
     // What failed half-way is still kept for the next start.
-    if (!Trapped([&] { goesOn = GoesOn(); })) {
+    if (!Trapped([&] { goesOn = GoesOn() || GoesOnWith(savedGame); })) {
         EndProgram();
     }
     if (!goesOn) {

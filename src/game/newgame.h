@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace torvenhall
 {
 
@@ -7,6 +9,8 @@ namespace torvenhall
 /// in hand when a program stopped without its normal end, paused; else a new
 /// game.
 void Main();
+/// The same with a saved game, by its path, instead of a new one; paused.
+void MainWith(const std::string& savedGame);
 
 /// Closes every window, asks for name and difficulty (cancelling ends the
 /// program and keeps the life before) and begins a life with the starting

@@ -5,6 +5,7 @@
 
 #include "core/basGame.h"
 #include "core/title.h"
+#include "core/traps.h"
 #include "equipment/basEquipment.h"
 #include "system/basSystem.h"
 #include "system/codepage.h"
@@ -175,6 +176,15 @@ SavedGame DecodeGame(std::string_view bytes)
     }
     std::ranges::transform(lines, lines.begin(), FromWindows1251);
     return lines;
+}
+
+bool IsLine(std::size_t line, std::string_view text)
+{
+    if (line == 1) {
+        return text == ApplicationTitle;
+    }
+    Game read;
+    return ErrorOf([&] { Rows[line - 1].read(read, text); }).number == 0;
 }
 
 std::optional<Game> WholeGame(const SavedGame& lines)

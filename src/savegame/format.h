@@ -25,6 +25,9 @@ std::string EncodeGame(const Game& game);
 /// than a game has.
 SavedGame DecodeGame(std::string_view bytes);
 
+/// Whether a text can stand in a line, counted from 1.
+bool IsLine(std::size_t line, std::string_view text);
+
 /// The game that the lines tell, if they are all lines of a game of this
 /// release and each of its kind.
 std::optional<Game> WholeGame(const SavedGame& lines);

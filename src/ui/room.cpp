@@ -25,7 +25,7 @@ void PaintRoom(QPainter& painter, const RoomLook& look, double pixelRatio)
     painter.scale(UnitScale(), UnitScale());
     painter.translate(0, RoomTop);
     PaintWall(painter, look);
-    PaintThings(painter, look, pixelRatio);
+    PaintThings(painter, look);
     PaintLight(painter, look);
     PaintGlow(painter, look);
     PaintWindow(painter, look, 0);

@@ -32,9 +32,9 @@ struct Hour {
 };
 
 constexpr Hour Hours[]{
-    {0xFF26365E, 0xFF0C1630, 1.0},  // night
+    {0xFF2C3A60, 0xFF101C38, 1.0},  // night
     {0xFF646080, 0xFF5A3844, 0.7},  // dawn
-    {0xFFDCD6D0, 0xFF282C30, 0.0},  // day
+    {0xFFD0CCCA, 0xFF2C3034, 0.0},  // day
     {0xFF504668, 0xFF6A3A20, 0.85}, // dusk
     {0xFF2E3E68, 0xFF121C38, 1.0},  // evening
 };
@@ -42,9 +42,10 @@ constexpr Hour Hours[]{
 constexpr Light Window{{70, 120}, 300, 150, 0};
 constexpr Light Lamp[]{
     {{284, 162}, 160, 124, 0xFF7A521E},
-    {{290, 130}, 310, 170, 0xFF603F16},
-    {{284, 170}, 92, 52, 0xFF34220A},
+    {{290, 134}, 330, 176, 0xFF684418},
+    {{284, 178}, 128, 60, 0xFF3C280C},
 };
+constexpr Light Lamps{{432, 58}, 190, 120, 0xFF382818}; ///< the string of little ones
 constexpr Light Screen{{290, 134}, 56, 52, 0xFF0A2436};
 
 constexpr struct {
@@ -88,6 +89,9 @@ void EachLight(const RoomLook& look, Use use)
             use(lamp, hour.lamp);
         }
     }
+    if (look.Part(Slot::Case) >= LampsFromCase && hour.lamp > 0) {
+        use(Lamps, hour.lamp);
+    }
     if (look.Running() && hour.lamp > 0) {
         use(Screen, 1.0);
     }
@@ -118,7 +122,7 @@ void Shine(QPainter& painter, const Light& light, double strength)
 void AddSun(QPainter& painter, const RoomLook& look)
 {
     const bool pale = look.season == Season::Winter;
-    const QColor sun = pale ? QColor(0x14, 0x1A, 0x20) : QColor(0x58, 0x4C, 0x30);
+    const QColor sun = pale ? QColor(0x14, 0x1A, 0x20) : QColor(0x6C, 0x58, 0x30);
     QLinearGradient fall(QPointF(120, 76), QPointF(390, 190));
     fall.setColorAt(0, sun);
     fall.setColorAt(1, Qt::black);
@@ -145,31 +149,33 @@ void PaintCatEyes(QPainter& painter)
 /// The edges of the hero that look at the lamp, and at the screen.
 void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
 {
-    QPainterPath warm(QPointF(306.5, 87.5)); // the hair over the brow
-    warm.cubicTo(303.4, 91, 302.4, 95, 302.6, 99.5);
-    warm.cubicTo(303.6, 95.5, 304.6, 91.5, 306.5, 87.5);
-    warm.moveTo(303.8, 110); // the nose
-    warm.cubicTo(301.6, 112.6, 301.2, 115, 302.6, 116.8);
-    warm.cubicTo(302.4, 114.6, 302.8, 112, 303.8, 110);
-    warm.moveTo(295, 139.8); // the far sleeve
-    warm.cubicTo(287.6, 146, 284.2, 155, 283, 165);
-    warm.cubicTo(286, 155.6, 289.8, 147.4, 295, 139.8);
-    warm.moveTo(300.2, 166.6); // the near one, and both hands
-    warm.cubicTo(311, 163.2, 326, 163.8, 338, 166.4);
-    warm.cubicTo(326, 165.6, 312, 165.4, 300.2, 166.6);
-    warm.moveTo(263.5, 162.4);
-    warm.cubicTo(269, 158.8, 276, 160.8, 281, 164);
-    warm.cubicTo(276, 162.4, 270, 161.2, 263.5, 162.4);
-    warm.moveTo(280, 165);
-    warm.cubicTo(286, 161.4, 293, 163, 299, 166.6);
-    warm.cubicTo(293, 164.8, 287, 163.6, 280, 165);
+    QPainterPath warm(QPointF(301.8, 87)); // the hair over the brow
+    warm.cubicTo(299.8, 90.4, 300, 93.6, 302.6, 96.2);
+    warm.cubicTo(301.8, 93.6, 301.4, 90.4, 301.8, 87);
+    warm.moveTo(308.4, 106.5); // the nose
+    warm.cubicTo(307.2, 110, 304.4, 112.8, 303.8, 115.2);
+    warm.cubicTo(303.4, 117.4, 304.6, 119, 306.4, 119);
+    warm.cubicTo(305.4, 117.6, 305, 116, 305.6, 114);
+    warm.cubicTo(306.6, 111.4, 308, 109, 308.4, 106.5);
+    warm.moveTo(300, 141.2); // the far sleeve
+    warm.cubicTo(291, 144.6, 284.6, 153, 282, 165.4);
+    warm.cubicTo(286, 155.4, 291.4, 147.6, 300, 141.2);
+    warm.moveTo(305, 166.8); // the near one, and both hands
+    warm.cubicTo(314, 163.2, 326, 163, 338, 164.2);
+    warm.cubicTo(326, 164.6, 314, 165.2, 305, 166.8);
+    warm.moveTo(263, 163.4);
+    warm.cubicTo(267, 157, 273, 156, 279, 157);
+    warm.cubicTo(273, 157.6, 268.5, 159, 263, 163.4);
+    warm.moveTo(275, 170);
+    warm.cubicTo(279, 164.6, 286, 163.2, 293, 164);
+    warm.cubicTo(287, 165, 281.4, 166, 275, 170);
     painter.save();
     painter.setCompositionMode(QPainter::CompositionMode_Screen);
     painter.fillPath(warm, QColor(255, 190, 108, static_cast<int>(150 * lamp)));
     if (look.Running()) {
-        QPainterPath cool(QPointF(304, 117.5)); // mouth and jaw
-        cool.cubicTo(304.4, 122, 306.4, 126.6, 311.4, 129.4);
-        cool.cubicTo(308.2, 126, 306.4, 122.4, 304, 117.5);
+        QPainterPath cool(QPointF(304.2, 120.5)); // mouth and jaw
+        cool.cubicTo(304.4, 125.4, 306.4, 130.8, 311.6, 132.6);
+        cool.cubicTo(308.2, 130, 306.2, 125.8, 304.2, 120.5);
         painter.fillPath(cool, QColor(110, 214, 240, 95));
     }
     painter.restore();
@@ -181,14 +187,17 @@ void PaintLampGlow(QPainter& painter, const RoomLook& look, double lamp)
         PaintCatEyes(painter);
     }
     QLinearGradient air(QPointF(262, 100), QPointF(284, 178));
-    air.setColorAt(0, QColor(255, 206, 132, static_cast<int>(86 * lamp)));
-    air.setColorAt(0.5, QColor(255, 190, 110, static_cast<int>(34 * lamp)));
+    air.setColorAt(0, QColor(255, 206, 132, static_cast<int>(36 * lamp)));
+    air.setColorAt(0.5, QColor(255, 190, 110, static_cast<int>(14 * lamp)));
     air.setColorAt(1, QColor(255, 180, 90, 0));
-    QPainterPath cone;
-    cone.addPolygon(QPolygonF{{254, 106}, {275.5, 97}, {346, 180}, {272, 180}});
     painter.save();
-    painter.setCompositionMode(QPainter::CompositionMode_Screen);
-    painter.fillPath(cone, air);
+    painter.setCompositionMode(QPainter::CompositionMode_Plus);
+    for (const double wider : {-7.0, 7.0}) { // a beam has no hard edge
+        QPainterPath cone;
+        cone.addPolygon(
+            QPolygonF{{254, 106}, {275.5, 97}, {346 + 1.6 * wider, 180}, {272 - wider, 180}});
+        painter.fillPath(cone, air);
+    }
     painter.restore();
     PaintRims(painter, look, lamp);
     Shine(painter, {{263, 102}, 62, 50, 0xFF5A3C1A}, lamp);
@@ -245,6 +254,7 @@ void PaintGlow(QPainter& painter, const RoomLook& look)
     painter.setClipRect(Free); // not into the gaps between the panels
     if (const double lamp = HourOf(look).lamp; lamp > 0) {
         PaintLampGlow(painter, look, lamp);
+        PaintLampsGlow(painter, look, lamp);
     } else { // the daylight in the air
         Shine(painter, {{110, 96}, 360, 150, 0xFF1E2226}, 1);
     }

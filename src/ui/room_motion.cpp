@@ -23,22 +23,22 @@ void PaintBlink(QPainter& painter, const RoomLook& look, int step)
     if (!EyesClosed(step)) {
         return;
     }
-    const QColor light = LightAt(look, {312, 106});
+    const QColor light = LightAt(look, {312, 107});
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(318.5, 105.5); // where the head was drawn, and how
-    painter.rotate(-5);
+    painter.translate(319, 106); // where the head was drawn, and how
+    painter.rotate(-4);
     constexpr struct {
         double left, right, y;
-    } Eyes[]{{-6.6, 3.6, 0.7}, {-15.9, -10.2, 0.6}};
+    } Eyes[]{{-6.6, 5, 1.2}, {-16.9, -10, 1.2}};
     for (const auto [left, right, y] : Eyes) {
         QPainterPath lid(QPointF(left, y));
-        lid.cubicTo(left + 1.5, y - 4.2, right - 2, y - 4.4, right, y);
-        lid.cubicTo(right - 2, y + 2.6, left + 2, y + 2.8, left, y);
-        painter.fillPath(lid, Lit(QColor(0xC8, 0x88, 0x66), light));
+        lid.cubicTo(left + 1.2, y - 6, right - 2.4, y - 6.2, right, y);
+        lid.cubicTo(right - 2, y + 4, left + 2, y + 4.2, left, y);
+        painter.fillPath(lid, Lit(QColor(0xD8, 0x98, 0x72), light));
         QPainterPath lash(QPointF(left, y + 0.2));
-        lash.cubicTo(left + 2, y + 2.6, right - 2, y + 2.4, right, y);
-        painter.strokePath(lash, QPen(Lit(QColor(0x2F, 0x1B, 0x18), light), 0.8));
+        lash.cubicTo(left + 2, y + 3, right - 2, y + 2.8, right, y);
+        painter.strokePath(lash, QPen(Lit(QColor(0x2A, 0x17, 0x15), light), 1));
     }
     painter.restore();
 }
@@ -122,11 +122,11 @@ bool SteamMoves(const RoomLook&, int before, int step)
 
 void PaintSteam(QPainter& painter, const RoomLook& look, int step)
 {
-    QColor white = LightAt(look, {386, 150});
+    QColor white = LightAt(look, {388, 150});
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     for (int i = 0; i < 3; ++i) {
-        const double x = 383.5 + i * 3.4;
+        const double x = 385.5 + i * 3.4;
         const double sway = 1.6 * std::sin(step * 0.45 + i * 2);
         QPainterPath wisp(QPointF(x, 160));
         wisp.cubicTo(x - 2 - sway, 155, x + 2 + sway, 152, x + sway, 146 + i % 2 * 2.5);
@@ -147,10 +147,10 @@ bool TrafficMoves(const RoomLook& look, int before, int step)
 }
 
 constexpr RoomMotion Motions[]{
-    {{300, 96, 24, 16}, PaintBlink, BlinkMoves},
-    {{14, 68, 94, 85}, PaintSnow, SnowMoves},
+    {{300, 98, 26, 16}, PaintBlink, BlinkMoves},
+    {{14, 60, 94, 93}, PaintSnow, SnowMoves},
     {{106, 124, 19, 8}, PaintCat, CatMoves},
-    {{378, 143, 16, 18}, PaintSteam, SteamMoves},
+    {{380, 143, 16, 18}, PaintSteam, SteamMoves},
     {{200, 108, 62, 64}, PaintScreen, ScreenMoves},
     {{400, 150, 42, 28}, PaintTraffic, TrafficMoves},
 };

@@ -1,10 +1,6 @@
-#include <QImage>
-
 #include <algorithm>
-#include <utility>
 
 #include "ui/roomparts.h"
-#include "ui/widgets/metrics.h"
 #include "ui/widgets/pictures.h"
 
 namespace torvenhall
@@ -12,10 +8,6 @@ namespace torvenhall
 
 namespace
 {
-
-/// The sheet's own size in units; above this scale its larger copy is the sharper.
-constexpr double SheetWidth = 400;
-constexpr double SheetScale = 2;
 
 /// Where a drawing is cut out of the sheet, and where it stands in the room.
 struct Cut {
@@ -29,8 +21,14 @@ struct Thing {
     Cut cut;
 };
 
-/// In the order of drawing: from the wall to the desk's edge.
+/// In the order of drawing: from the wall to the desk's edge. Level 0 is what
+/// stands in for a thing that there is no money for yet.
 constexpr Thing Things[]{
+    {Slot::Case, 0, {{280, 256, 58, 18}, {147, 163}}},   // the place kept for it
+    {Slot::Case, 3, {{358, 246, 42, 46}, {193, 60}}},    // a picture in a golden frame
+    {Slot::Case, 3, {{190, 296, 52, 15}, {382, 182.5}}}, // the half-open drawer is full
+    {Slot::Case, 3, {{244, 288, 34, 48}, {355, 72}}},    // a golden disc
+    {Slot::Screen, 0, {{210, 208, 68, 72}, {200, 106}}},
     {Slot::Screen, 1, {{245, 0, 62, 58}, {200, 118}}},
     {Slot::Screen, 2, {{68, 0, 78, 73}, {186, 104}}},
     {Slot::Screen, 3, {{0, 0, 66, 74}, {198, 103}}},
@@ -46,9 +44,11 @@ constexpr Thing Things[]{
     {Slot::Discs, 1, {{164, 187, 30, 13}, {82, 168}}},
     {Slot::Discs, 2, {{287, 161, 28, 21}, {84, 160}}},
     {Slot::Discs, 3, {{212, 127, 34, 29}, {78, 152}}},
+    {Slot::Scanner, 0, {{0, 296, 96, 38}, {12, 144}}}, // tea, and programs on paper
     {Slot::Scanner, 1, {{0, 187, 76, 18}, {2, 164}}},
     {Slot::Scanner, 2, {{317, 161, 66, 20}, {18, 162}}},
     {Slot::Scanner, 3, {{0, 127, 82, 32}, {8, 150}}},
+    {Slot::Printer, 0, {{280, 208, 76, 46}, {438, 138}}}, // adverts and savings
     {Slot::Printer, 1, {{226, 76, 72, 45}, {444, 138}}},
     {Slot::Printer, 2, {{0, 76, 72, 49}, {444, 134}}},
     {Slot::Printer, 3, {{74, 76, 74, 49}, {442, 134}}},
@@ -60,10 +60,16 @@ constexpr Thing Things[]{
     {Slot::Memory, 3, {{119, 161, 34, 23}, {482, 104}}},
 };
 
-constexpr Cut Keyboard{{317, 127, 80, 24}, {228, 158}}; // and the hands on it
+// The hands come with what they type on: paper, or a real one.
+constexpr Cut PaperKeyboard{{120, 240, 88, 30}, {226, 154}};
+constexpr Cut Keyboard{{120, 208, 88, 30}, {226, 154}};
 // The hero's other faces, laid over the one in the picture.
-constexpr Cut Worried{{150, 76, 36, 48}, {294, 86}};
-constexpr Cut Glad{{188, 76, 36, 48}, {294, 86}};
+constexpr Cut Worried{{0, 208, 58, 70}, {288, 64}};
+constexpr Cut Glad{{60, 208, 58, 70}, {288, 64}};
+/// The corner of the wallpaper that is mended before anything else is bought.
+constexpr Cut TornWallpaper{{360, 208, 40, 38}, {478, 57}};
+constexpr int DiplomasOverTear = 4;
+constexpr Cut Bachelor{{98, 296, 90, 34}, {390, 94}};
 constexpr Cut Bride{{84, 127, 32, 32}, {392, 95}};
 constexpr Cut Wedding{{118, 127, 36, 32}, {390, 95}};
 constexpr QRectF Boys[]{{155, 161, 20, 23}, {177, 161, 20, 23}};
@@ -73,51 +79,33 @@ constexpr double ChildStep = 14.6;
 /// The second speaker is the first one's mirror image about this line.
 constexpr double SpeakersMiddle = 303;
 
-bool AnythingToShow(const RoomLook& look)
+void Draw(QPainter& painter, const Cut& cut)
 {
-    return look.mood != Mood::Calm || look.bride || look.wedding ||
-           look.sons + look.daughters > 0 ||
-           std::ranges::any_of(look.parts, [](int level) { return level > 0; });
+    DrawCutOut(painter, "THINGS", cut.source, QRectF(cut.place, cut.source.size()));
 }
 
-const QImage& Sheet(bool large)
-{
-    static QImage sheet;
-    static bool isLarge = false;
-    if (std::exchange(isLarge, large) != large || sheet.isNull()) {
-        sheet = QImage::fromData(EmbeddedPicture(large ? "MAINTHINGS4" : "MAINTHINGS"), "png")
-                    .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    }
-    return sheet;
-}
-
-void Draw(QPainter& painter, const QImage& sheet, const Cut& cut)
-{
-    const double fine = sheet.width() / SheetWidth;
-    painter.drawImage(QRectF(cut.place, cut.source.size()), sheet,
-                      QRectF(cut.source.topLeft() * fine, cut.source.size() * fine));
-}
-
-void DrawMirrored(QPainter& painter, const QImage& sheet, const Cut& cut)
+void DrawMirrored(QPainter& painter, const Cut& cut)
 {
     painter.save();
     painter.translate(2 * SpeakersMiddle, 0);
     painter.scale(-1, 1);
-    Draw(painter, sheet, cut);
+    Draw(painter, cut);
     painter.restore();
 }
 
-void DrawFamily(QPainter& painter, const QImage& sheet, const RoomLook& look)
+void DrawFamily(QPainter& painter, const RoomLook& look)
 {
     QPointF place = FirstChild;
     const auto portrait = [&](const QRectF& source) {
-        Draw(painter, sheet, {source, place});
+        Draw(painter, {source, place});
         place.rx() += ChildStep;
     };
     if (look.wedding) {
-        Draw(painter, sheet, Wedding);
+        Draw(painter, Wedding);
     } else if (look.bride) {
-        Draw(painter, sheet, Bride);
+        Draw(painter, Bride);
+    } else if (look.sons + look.daughters == 0) {
+        Draw(painter, Bachelor);
     }
     std::for_each_n(Boys, look.sons, portrait);
     std::for_each_n(Girls, look.daughters, portrait);
@@ -125,28 +113,26 @@ void DrawFamily(QPainter& painter, const QImage& sheet, const RoomLook& look)
 
 } // namespace
 
-void PaintThings(QPainter& painter, const RoomLook& look, double pixelRatio)
+void PaintThings(QPainter& painter, const RoomLook& look)
 {
-    if (!AnythingToShow(look)) {
-        return;
+    const bool poor = look.Part(Slot::Case) == 0;
+    if (poor && look.diplomas < DiplomasOverTear) {
+        Draw(painter, TornWallpaper);
     }
-    const QImage& sheet = Sheet(UnitScale() * pixelRatio > SheetScale);
     if (look.mood != Mood::Calm) {
-        Draw(painter, sheet, look.mood == Mood::Glad ? Glad : Worried);
+        Draw(painter, look.mood == Mood::Glad ? Glad : Worried);
     }
     for (const Thing& thing : Things) {
         if (look.Part(thing.slot) != thing.level) {
             continue;
         }
-        Draw(painter, sheet, thing.cut);
+        Draw(painter, thing.cut);
         if (thing.slot == Slot::Sound) {
-            DrawMirrored(painter, sheet, thing.cut);
+            DrawMirrored(painter, thing.cut);
         }
     }
-    if (look.Part(Slot::Case) > 0) {
-        Draw(painter, sheet, Keyboard);
-    }
-    DrawFamily(painter, sheet, look);
+    Draw(painter, poor ? PaperKeyboard : Keyboard);
+    DrawFamily(painter, look);
 }
 
 } // namespace torvenhall

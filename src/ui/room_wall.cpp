@@ -1,5 +1,6 @@
 #include <QFont>
 
+#include <iterator>
 #include <string_view>
 
 #include "ui/roomparts.h"
@@ -98,12 +99,82 @@ void PaintDiploma(QPainter& painter, const QRectF& place, int number)
     painter.drawEllipse(seal - QPointF(0.3, 0.3), 1.1, 1.1);
 }
 
+/// The string of lamps hangs in swags from nail to nail, and behind the panel
+/// where the hero's head is.
+constexpr struct {
+    double left, right, top, dip;
+    int lamps;
+} Swags[]{
+    {161, 199, 58, 7, 4}, {232, 304, 56, 10, 7}, {346, 433, 56, 11, 8}, {433, 521, 57, 11, 8}};
+
+constexpr QRgb LampColours[]{0xFFFFC860, 0xFFFF7A5C, 0xFF7FD8C0, 0xFFFFE09A, 0xFFE88AB0};
+
+/// Calls use(place, colour) for each lamp.
+template <typename Use>
+void EachLamp(Use use)
+{
+    int number = 0;
+    for (const auto& [left, right, top, dip, lamps] : Swags) {
+        for (int i = 0; i < lamps; ++i, ++number) {
+            const double part = (i + 0.5) / lamps;
+            use(QPointF(left + (right - left) * part, top + 4 * dip * part * (1 - part) + 2.4),
+                QColor(LampColours[number % std::size(LampColours)]));
+        }
+    }
+}
+
+void PaintLamps(QPainter& painter)
+{
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(0x2A, 0x3A, 0x2C), 0.7));
+    for (const auto& [left, right, top, dip, lamps] : Swags) {
+        QPainterPath wire(QPointF(left, top));
+        wire.quadTo((left + right) / 2, top + 2 * dip, right, top);
+        painter.drawPath(wire);
+    }
+    painter.setPen(Qt::NoPen);
+    EachLamp([&](QPointF place, QColor colour) {
+        painter.setBrush(QColor(0x24, 0x32, 0x28));
+        painter.drawRect(QRectF(place.x() - 0.8, place.y() - 2.6, 1.6, 1.8));
+        painter.setBrush(colour.darker(115));
+        painter.drawEllipse(place + QPointF(0, 0.6), 1.4, 2);
+        painter.setBrush(QColor(255, 255, 255, 150));
+        painter.drawEllipse(place + QPointF(-0.4, 0), 0.4, 0.7);
+    });
+}
+
 } // namespace
+
+void PaintLampsGlow(QPainter& painter, const RoomLook& look, double strength)
+{
+    if (look.Part(Slot::Case) < LampsFromCase) {
+        return;
+    }
+    constexpr double Reach = 8;
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    EachLamp([&](QPointF place, QColor colour) {
+        QRadialGradient halo(place, Reach);
+        colour.setAlphaF(static_cast<float>(0.8 * strength));
+        halo.setColorAt(0, colour);
+        colour.setAlphaF(static_cast<float>(0.3 * strength));
+        halo.setColorAt(0.3, colour);
+        colour.setAlphaF(0);
+        halo.setColorAt(1, colour);
+        painter.fillRect(QRectF(place.x() - Reach, place.y() - Reach, 2 * Reach, 2 * Reach), halo);
+        painter.setBrush(QColor(255, 246, 220, static_cast<int>(230 * strength)));
+        painter.drawEllipse(place + QPointF(0, 0.5), 1, 1.5);
+    });
+    painter.restore();
+}
 
 void PaintWall(QPainter& painter, const RoomLook& look)
 {
     painter.save();
     PaintLeaf(painter, look);
+    if (look.Part(Slot::Case) >= LampsFromCase) {
+        PaintLamps(painter);
+    }
     for (int i = 0; i < look.diplomas; ++i) {
         PaintDiploma(painter, Diplomas[i], i);
     }

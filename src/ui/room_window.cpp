@@ -15,7 +15,9 @@ constexpr double Top = 46;
 constexpr QRectF Glass(14, Top, 96, 152 - Top);
 
 /// Glass without bars or pot, for what falls behind it.
-constexpr QRectF Open[]{{14, Top, 42, 106}, {62, Top, 48, 40.5}, {62, 91.1, 39.4, 61}};
+constexpr QRectF Open[]{{14, 62, 42, 90}, {62, 62, 40, 24.5}, {62, 91.1, 39.4, 61}};
+/// The curtain's rod crosses the glass.
+constexpr QRectF Rod(0, 57.4, 160, 3.4);
 
 struct SkyColours {
     QRgb top, middle, low;
@@ -35,23 +37,25 @@ bool Dark(const RoomLook& look)
     return look.daylight == Daylight::Night || look.daylight == Daylight::Evening;
 }
 
+constexpr QPointF Moon(89, 74);
+
 void PaintStars(QPainter& painter, const RoomLook& look)
 {
-    const int stars = look.season == Season::Winter ? 10 : 26; // snow clouds
+    const int stars = look.season == Season::Winter ? 12 : 32; // snow clouds
     for (int i = 0; i < stars; ++i) {
-        const QPointF place(14 + 92 * Scatter(i * 3), 70 + 44 * Scatter(i * 3 + 1));
+        const QPointF place(14 + 92 * Scatter(i * 3), 58 + 54 * Scatter(i * 3 + 1));
         const double size = 0.3 + 0.35 * Scatter(i * 3 + 2);
         painter.setBrush(QColor(226, 236, 255, 110 + static_cast<int>(130 * Scatter(i + 77))));
         painter.drawEllipse(place, size, size);
     }
-    QRadialGradient halo(QPointF(88, 83), 20);
+    QRadialGradient halo(Moon, 20);
     halo.setColorAt(0, QColor(190, 214, 255, 120));
     halo.setColorAt(1, QColor(190, 214, 255, 0));
-    painter.fillRect(QRectF(66, 60, 44, 44), halo);
+    painter.fillRect(QRectF(Moon.x() - 20, Moon.y() - 20, 40, 40), halo);
     QPainterPath moon;
-    moon.addEllipse(QPointF(88, 83), 5, 5);
+    moon.addEllipse(Moon, 5.6, 5.6);
     QPainterPath bite;
-    bite.addEllipse(QPointF(85.4, 81.6), 4.4, 4.4);
+    bite.addEllipse(Moon - QPointF(2.8, 1.6), 5, 5);
     painter.setBrush(QColor(0xF6, 0xEE, 0xD2));
     painter.drawPath(moon - bite);
 }
@@ -60,7 +64,7 @@ void PaintClouds(QPainter& painter, const RoomLook& look)
 {
     constexpr struct {
         double x, y, width;
-    } Clouds[]{{22, 86, 20}, {44, 79, 14}, {72, 81, 22}, {98, 97, 16}};
+    } Clouds[]{{24, 88, 20}, {44, 74, 16}, {74, 78, 22}, {24, 67, 12}, {98, 98, 16}};
     const bool day = look.daylight == Daylight::Day;
     for (const auto [x, y, width] : Clouds) {
         painter.setBrush(day ? QColor(255, 255, 255, 150) : QColor(255, 190, 150, 90));
@@ -74,7 +78,7 @@ void PaintSky(QPainter& painter, const RoomLook& look)
 {
     const bool white = look.daylight == Daylight::Day && look.season == Season::Winter;
     const SkyColours& colours = white ? WinterDay : Skies[static_cast<int>(look.daylight)];
-    QLinearGradient sky(0, 60, 0, 138);
+    QLinearGradient sky(0, 54, 0, 138);
     sky.setColorAt(0, QColor(colours.top));
     sky.setColorAt(0.55, QColor(colours.middle));
     sky.setColorAt(1, QColor(colours.low));
@@ -99,7 +103,7 @@ void PaintSheen(QPainter& painter, const RoomLook& look)
     const int strength = Dark(look) ? 16 : 34;
     for (const double x : {24.0, 74.0}) {
         QPainterPath sheen;
-        sheen.addPolygon(QPolygonF{{x + 12, 66}, {x + 22, 66}, {x - 6, 152}, {x - 16, 152}});
+        sheen.addPolygon(QPolygonF{{x + 16, Top}, {x + 26, Top}, {x - 6, 152}, {x - 16, 152}});
         painter.fillPath(sheen, QColor(255, 255, 255, strength));
     }
     if (Dark(look)) {
@@ -108,6 +112,17 @@ void PaintSheen(QPainter& painter, const RoomLook& look)
         lamp.setColorAt(1, QColor(255, 200, 120, 0));
         painter.fillRect(QRectF(76, 92, 40, 40), lamp);
     }
+}
+
+/// What stands above takes the light from the top of the glass, as from the wall.
+void PaintShade(QPainter& painter)
+{
+    QLinearGradient shade(0, Top, 0, 72);
+    shade.setColorAt(0, QColor(10, 10, 14, 240));
+    shade.setColorAt(0.3, QColor(10, 10, 14, 170));
+    shade.setColorAt(0.6, QColor(14, 12, 14, 60));
+    shade.setColorAt(1, QColor(14, 12, 14, 0));
+    painter.fillRect(QRectF(Glass.left(), Top, Glass.width(), 72 - Top), shade);
 }
 
 } // namespace
@@ -128,7 +143,9 @@ const QPainterPath& Panes()
         bar.addRect(60, 86.5, 52, 4.6);
         QPainterPath pot;
         pot.addRect(39, 144, 16, 9);
-        return path - bar - pot;
+        QPainterPath rod;
+        rod.addRect(Rod);
+        return path - bar - pot - rod;
     }();
     return panes;
 }
@@ -142,6 +159,7 @@ void PaintView(QPainter& painter, const RoomLook& look)
     PaintHouses(painter, look);
     PaintYard(painter, look);
     PaintSheen(painter, look);
+    PaintShade(painter);
     painter.restore();
 }
 
@@ -155,7 +173,7 @@ void PaintFlakes(QPainter& painter, const RoomLook& look, int step)
     painter.setBrush(Dark(look) ? QColor(214, 226, 250, 215) : QColor(255, 255, 255, 235));
     for (int i = 0; i < 34; ++i) {
         const double fall = 1 + 1.3 * Scatter(i * 5 + 2);
-        const double y = 66 + std::fmod(86 * Scatter(i * 5) + fall * step, 86);
+        const double y = 61 + std::fmod(91 * Scatter(i * 5) + fall * step, 91);
         const double x = 14 + 96 * Scatter(i * 5 + 1) + 2 * std::sin(step * 0.5 + i);
         const double size = 0.5 + 0.6 * Scatter(i * 5 + 3);
         const QRectF flake(x - size, y - size, 2 * size, 2 * size);

@@ -21,10 +21,14 @@ void PaintLight(QPainter& painter, const RoomLook& look);
 /// The shine of the bulb and of the screen in the air.
 void PaintGlow(QPainter& painter, const RoomLook& look);
 
-/// The calendar's leaf and the diplomas.
+/// The string of little lamps comes with the first good machine.
+inline constexpr int LampsFromCase = 2;
+/// The calendar's leaf, the diplomas, the string of little lamps.
 void PaintWall(QPainter& painter, const RoomLook& look);
+/// The shine of those lamps, at a strength of 0..1.
+void PaintLampsGlow(QPainter& painter, const RoomLook& look, double strength);
 /// What is owned and the family's photos, with their shadows.
-void PaintThings(QPainter& painter, const RoomLook& look, double pixelRatio);
+void PaintThings(QPainter& painter, const RoomLook& look);
 
 /// The visible glass.
 const QPainterPath& Panes();

@@ -4,8 +4,11 @@
 #include <QHash>
 #include <QImageReader>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QResource>
+#include <QtMath>
 
+#include <cmath>
 #include <utility>
 
 #include "resources/modJpegInside.h"
@@ -25,9 +28,14 @@ namespace torvenhall
 namespace
 {
 
-/// For the larger scales each picture is carried a second time, twice as large.
+/// Each picture is carried in three sizes: twice its own, its own for small
+/// screens, where a machine is slow as well, and four times for the largest.
 constexpr const char* Usual = ":/JPEGINSIDEDATA/";
+constexpr const char* Small = ":/small/";
 constexpr const char* Large = ":/large/";
+
+/// At scale 1: the room, and the two places in town where one was last.
+constexpr double KeptKilobytes = 2900;
 
 QByteArray Carried(const char* where, std::string_view name)
 {
@@ -44,15 +52,19 @@ QPixmap Decode(std::string_view name, QSize wanted, double pixelRatio)
 {
     const QSize pixels = wanted * pixelRatio;
     QBuffer buffer;
-    buffer.setData(Carried(Usual, name));
-    QImageReader reader(&buffer, "jpeg");
-    const bool small =
-        reader.size().width() < pixels.width() || reader.size().height() < pixels.height();
-    if (const QByteArray large = Carried(Large, name); small && !large.isEmpty()) {
+    QImageReader reader;
+    for (const char* carried : {Small, Usual, Large}) {
+        const QByteArray jpeg = Carried(carried, name);
+        if (jpeg.isEmpty()) {
+            continue;
+        }
         buffer.close(); // the reader has opened it
-        buffer.setData(large);
+        buffer.setData(jpeg);
         reader.setDevice(&buffer);
         reader.setFormat("jpeg");
+        if (reader.size().width() >= pixels.width() && reader.size().height() >= pixels.height()) {
+            break;
+        }
     }
     const QSize scaled = reader.size().scaled(pixels, Qt::KeepAspectRatioByExpanding);
     reader.setScaledSize(scaled);
@@ -79,16 +91,17 @@ bool TakePictureStep(std::string_view key)
 
 QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio)
 {
-    static QHash<QString, QPixmap> decoded;
     static double scale = 0;
     if (std::exchange(scale, UnitScale()) != UnitScale()) {
-        decoded.clear(); // no picture is wanted in its old size again
+        QPixmapCache::clear(); // no picture is wanted in its old size again
+        QPixmapCache::setCacheLimit(qCeil(KeptKilobytes * scale * scale));
     }
     const QString place =
         QString("%1 %2x%3@%4").arg(Text(name)).arg(size.width()).arg(size.height()).arg(pixelRatio);
-    QPixmap& picture = decoded[place];
-    if (picture.isNull() && !EmbeddedPicture(name).isEmpty()) {
+    QPixmap picture;
+    if (!QPixmapCache::find(place, &picture) && !EmbeddedPicture(name).isEmpty()) {
         picture = Decode(name, size, pixelRatio);
+        QPixmapCache::insert(place, picture);
     }
     return picture;
 }
@@ -97,7 +110,7 @@ void DrawCutOut(QPainter& painter, std::string_view sheet, const QRectF& piece, 
 {
     // How many pixels of the sheet and of the screen make a unit of the sheet.
     constexpr int usual = 2, large = 4;
-    const double wanted = painter.deviceTransform().m11() * place.width() / piece.width();
+    const double wanted = std::abs(painter.deviceTransform().m11()) * place.width() / piece.width();
     const int fine = wanted > usual ? large : usual;
     static QHash<QString, QImage> decoded;
     QImage& cutOuts = decoded[Text(sheet)];

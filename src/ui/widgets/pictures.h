@@ -20,8 +20,8 @@ QByteArray EmbeddedPicture(std::string_view name);
 /// background; false when there is no such picture.
 bool TakePictureStep(std::string_view key);
 
-/// A picture by its embedded name, filling a size in toolkit pixels; decoded and
-/// scaled once. Null when there is none.
+/// A picture by its embedded name, filling a size in toolkit pixels; decoded once
+/// and kept for a while. Null when there is none.
 QPixmap LoadPicture(std::string_view name, QSize size, double pixelRatio);
 
 /// Draws a piece of a sheet of cut-outs ("THINGS"), given in the sheet's units, to
