@@ -185,15 +185,18 @@ std::string ReadWholeFile(const std::string& path)
         throw RuntimeError{error::PathFileAccess, path};
     }
     std::string bytes;
-    std::array<char, 16384> block;
+    constexpr std::size_t block = 16384;
     while (bytes.size() <= LongestFile && std::cmp_less_equal(status.st_size, LongestFile)) {
+        const std::size_t before = bytes.size();
+        bytes.reserve(static_cast<std::size_t>(status.st_size) + block);
+        bytes.resize(before + block);
         const ssize_t count =
-            Retried([&] { return ::read(file.Number(), block.data(), block.size()); });
+            Retried([&] { return ::read(file.Number(), bytes.data() + before, block); });
         RaiseUnless(count >= 0, path);
+        bytes.resize(before + static_cast<std::size_t>(count));
         if (count == 0) {
             return bytes;
         }
-        bytes.append(block.data(), static_cast<std::size_t>(count));
     }
     throw RuntimeError{error::BadRecordLength, path};
 }
