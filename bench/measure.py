@@ -3,7 +3,7 @@
 
 usage: measure.py BUILD [--only PART] [--rounds N] [--minutes N] [--profile]
 
-Ends with 1 when a bound is missed. PART is start, idle, memory or clicks. --profile prints where
+Ends with 1 when a bound is missed. PART is start, clicks, idle, memory or rules. --profile prints where
 the instructions of a start go, by library and by function.
 """
 
@@ -11,11 +11,9 @@ import argparse
 import sys
 from pathlib import Path
 
-from figures import clicks, idle, memory, start
-from figures.programs import Program
+from figures import clicks, idle, memory, rules, start
+from figures.programs import play_programs
 from figures.table import Table
-
-SHIPPED = ("ANECDOT.DAT", "License.txt", "Readme.txt")
 
 
 def print_profile(program, lines=14):
@@ -28,19 +26,14 @@ def print_profile(program, lines=14):
 def main():
     options = argparse.ArgumentParser(usage=__doc__)
     options.add_argument("build", type=Path)
-    options.add_argument("--only", choices=["start", "idle", "memory", "clicks"])
+    options.add_argument("--only", choices=["start", "clicks", "idle", "memory", "rules"])
     options.add_argument("--rounds", type=int)
     options.add_argument("--minutes", type=float, default=3, help="of the memory's growth")
     options.add_argument("--profile", action="store_true")
     given = options.parse_args()
 
     build = given.build.resolve()
-    probe = build / "bench" / "libprobe.so"
-    app = build / "src" / "app"
-    # The floor is as large as the main window is at scale 1.
-    game = Program("the game", app / "torvenhall", probe, ["--scale", "1"],
-                   [app / name for name in SHIPPED])
-    floor = Program("the floor", build / "bench" / "floor", probe)
+    game, floor = play_programs(build)
     table = Table()
     try:
         if given.only in (None, "start"):
@@ -55,6 +48,8 @@ def main():
             idle.figures(table, game, floor, given.rounds)
         if given.only in (None, "memory"):
             memory.figures(table, game, floor, given.minutes)
+        if given.only in (None, "rules"):
+            rules.figures(table, build / "bench" / "rules_bench", given.rounds)
     finally:
         game.place.remove()
         floor.place.remove()

@@ -93,6 +93,15 @@ class Program:
                 and file not in (self.probe, f"{own}/notes")]
 
 
+def play_programs(build):
+    """The game and its floor, as they lie in a build folder."""
+    probe, app = build / "bench" / "libprobe.so", build / "src" / "app"
+    # The floor is as large as the main window is at scale 1.
+    game = Program("the game", app / "torvenhall", probe, ["--scale", "1"],
+                   [app / name for name in ("ANECDOT.DAT", "License.txt", "Readme.txt")])
+    return game, Program("the floor", build / "bench" / "floor", probe)
+
+
 def profile_of(file, by):
     """Adds up the own costs in callgrind's file, whose names are numbered."""
     names, costs, current, calls = {}, collections.Counter(), None, False
@@ -125,7 +134,7 @@ def linked_libraries(program):
 
 
 def evict(files):
-    """Drops the files from the memory of the system; the share that has gone."""
+    """Drops the files from the memory of the system, unless others use them."""
     for file in files:
         descriptor = os.open(file, os.O_RDONLY)
         try:

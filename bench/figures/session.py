@@ -65,10 +65,20 @@ class Session:
         return (sum(count - before.get(thread, 0) for thread, count in now.items()) +
                 len(before.keys() - now.keys()))
 
-    def memory(self):
-        """Proportional memory, MB."""
+    def memory(self, of="Pss"):
+        """Proportional memory, MB; of "Pss_Anon" what is in no file."""
         with open(f"/proc/{self.process.pid}/smaps_rollup", encoding="ascii") as rollup:
-            return next(int(line.split()[1]) for line in rollup if line.startswith("Pss:")) / 1024
+            return next(int(line.split()[1]) for line in rollup
+                        if line.startswith(of + ":")) / 1024
+
+    def settled_memory(self, seconds=3):
+        """The most in so many seconds: whatever else starts meanwhile and shares the
+        same libraries lowers it for a while."""
+        end, most = time.monotonic() + seconds, 0
+        while time.monotonic() < end:
+            most = max(most, self.memory())
+            time.sleep(0.2)
+        return most
 
     def threads(self):
         return len(os.listdir(f"/proc/{self.process.pid}/task"))

@@ -1,5 +1,6 @@
 // Software, saved games and the anecdotes.
 
+#include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>

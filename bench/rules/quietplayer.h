@@ -1,7 +1,5 @@
 #pragma once
 
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <string>

@@ -1,8 +1,15 @@
 // The clock: a tick at each speed, a day's events, and years of them.
 
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+
 #include "bench/rules/floors.h"
 #include "bench/rules/quietplayer.h"
 #include "core/GameState.h"
+#include "core/shown.h"
 #include "events/basEvents.h"
 #include "events/family.h"
 #include "game/clock.h"
@@ -28,6 +35,7 @@ void Tick(benchmark::State& state)
     SetGameSpeed(static_cast<std::int16_t>(state.range(0)));
     for (auto _ : state) {
         ClockTick();
+        benchmark::DoNotOptimize(ShownAt(Label::lblTime).text.data());
         StayInTheDay();
     }
 }
