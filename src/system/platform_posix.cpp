@@ -184,19 +184,24 @@ std::string ReadWholeFile(const std::string& path)
     if (!S_ISREG(status.st_mode)) {
         throw RuntimeError{error::PathFileAccess, path};
     }
+    if (std::cmp_greater(status.st_size, LongestFile)) {
+        throw RuntimeError{error::BadRecordLength, path};
+    }
+    // In one piece; once more finds the end, or what is written meanwhile.
+    constexpr std::size_t more = 4096;
+    std::size_t most = static_cast<std::size_t>(status.st_size) + more;
     std::string bytes;
-    constexpr std::size_t block = 16384;
-    while (bytes.size() <= LongestFile && std::cmp_less_equal(status.st_size, LongestFile)) {
+    while (bytes.size() <= LongestFile) {
         const std::size_t before = bytes.size();
-        bytes.reserve(static_cast<std::size_t>(status.st_size) + block);
-        bytes.resize(before + block);
+        bytes.resize(before + most);
         const ssize_t count =
-            Retried([&] { return ::read(file.Number(), bytes.data() + before, block); });
+            Retried([&] { return ::read(file.Number(), bytes.data() + before, most); });
         RaiseUnless(count >= 0, path);
         bytes.resize(before + static_cast<std::size_t>(count));
         if (count == 0) {
             return bytes;
         }
+        most = more;
     }
     throw RuntimeError{error::BadRecordLength, path};
 }
