@@ -52,6 +52,7 @@ def figures(table, program, rounds):
     against("a saved game's text parsed", "ParseText", "TextFloor", None)
     against("a game saved, durably", "Save", "SaveFloor", 1.5, 1e3, "us")
     against("a game loaded", "Load", "LoadFloor", 1.5, 1e3, "us", 1)
+    against("    its file read and decoded", "ReadSave", "LoadFloor", None, 1e3, "us", 1)
     for lines in (120, 32766):
         against(f"an anecdote of {lines:,}", f"Anecdote/{lines}", f"AnecdoteFloor/{lines}", 2, 1e3,
                 "us", 1)

@@ -150,6 +150,18 @@ void Load(benchmark::State& state)
 }
 BENCHMARK(Load)->Unit(benchmark::kMicrosecond);
 
+/// Without the list of games and without applying what is read.
+void ReadSave(benchmark::State& state)
+{
+    const RulesLife life;
+    SaveGame();
+    const std::string path = life.folder + "SAVE/bench.QVS";
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(DecodeGame(ReadWholeFile(path)));
+    }
+}
+BENCHMARK(ReadSave)->Unit(benchmark::kMicrosecond);
+
 std::string ReadPlainly(const std::string& path)
 {
     struct stat told {
