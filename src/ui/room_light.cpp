@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "ui/roomparts.h"
+#include "ui/widgets/strips.h"
 
 namespace torvenhall
 {
@@ -106,7 +107,8 @@ void AddLight(QPainter& painter, const Light& light, double strength)
     painter.save();
     painter.translate(light.centre);
     painter.scale(light.across, light.down);
-    painter.fillRect(QRectF(-1, -1, 2, 2), gradient);
+    const QRectF reach(-1, -1, 2, 2);
+    InStrips(painter, reach, [&] { painter.fillRect(reach, gradient); });
     painter.restore();
 }
 
@@ -129,7 +131,7 @@ void AddSun(QPainter& painter, const RoomLook& look)
     QPainterPath beams;
     beams.addPolygon(QPolygonF{{146, 66}, {192, 66}, {334, 190}, {214, 190}});
     beams.addPolygon(QPolygonF{{202, 66}, {236, 66}, {412, 190}, {356, 190}});
-    painter.fillPath(beams, fall);
+    InStrips(painter, beams.boundingRect(), [&] { painter.fillPath(beams, fall); });
 }
 
 /// A cat's eyes keep what light there is.
@@ -171,7 +173,8 @@ void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
     warm.cubicTo(287, 165, 281.4, 166, 275, 170);
     painter.save();
     painter.setCompositionMode(QPainter::CompositionMode_Screen);
-    painter.fillPath(warm, QColor(255, 190, 108, static_cast<int>(150 * lamp)));
+    const QColor light(255, 190, 108, static_cast<int>(150 * lamp));
+    InStrips(painter, warm.boundingRect(), [&] { painter.fillPath(warm, light); });
     if (look.Running()) {
         QPainterPath cool(QPointF(304.2, 120.5)); // mouth and jaw
         cool.cubicTo(304.4, 125.4, 306.4, 130.8, 311.6, 132.6);
@@ -196,7 +199,7 @@ void PaintLampGlow(QPainter& painter, const RoomLook& look, double lamp)
         QPainterPath cone;
         cone.addPolygon(
             QPolygonF{{254, 106}, {275.5, 97}, {346 + 1.6 * wider, 180}, {272 - wider, 180}});
-        painter.fillPath(cone, air);
+        InStrips(painter, cone.boundingRect(), [&] { painter.fillPath(cone, air); });
     }
     painter.restore();
     PaintRims(painter, look, lamp);
@@ -244,7 +247,7 @@ void PaintLight(QPainter& painter, const RoomLook& look)
     lights.end();
     painter.save();
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
-    painter.drawImage(Band, map);
+    InStrips(painter, Band, [&] { painter.drawImage(Band, map); });
     painter.restore();
 }
 

@@ -6,6 +6,7 @@
 #include "ui/roomparts.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
+#include "ui/widgets/strips.h"
 
 namespace torvenhall
 {
@@ -25,8 +26,8 @@ void Shadow(QPainter& painter, const QRectF& thing)
 {
     for (int i = 0; i < 3; ++i) {
         const double grown = 0.6 - 0.6 * i;
-        painter.fillRect(thing.adjusted(1 - grown, 1.2 - grown, 1.6 + grown, 2 + grown),
-                         QColor(40, 22, 14, 46));
+        const QRectF shade = thing.adjusted(1 - grown, 1.2 - grown, 1.6 + grown, 2 + grown);
+        InStrips(painter, shade, [&] { painter.fillRect(shade, QColor(40, 22, 14, 46)); });
     }
 }
 

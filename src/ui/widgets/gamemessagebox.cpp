@@ -7,6 +7,7 @@
 #include <QLayout>
 #include <QPainter>
 #include <QPushButton>
+#include <QStyle>
 
 #include "ui/widgets/colours.h"
 #include "ui/widgets/face.h"
@@ -74,7 +75,11 @@ void GameMessageBox::Arrange()
     const int title = metrics.horizontalAdvance(windowTitle()) + Px(40);
     const int width = std::max({Px(200), std::min(natural, Px(380)), title});
     label->setWordWrap(true);
-    label->setFixedSize(width, label->heightForWidth(width));
+    label->setMinimumHeight(0); // at another scale it was higher
+    // What is told stands beside the middle of who tells it.
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    label->setFixedSize(width, std::max(label->heightForWidth(width),
+                                        style()->pixelMetric(QStyle::PM_MessageBoxIconSize)));
     // What the buttons need now must reach the box at once.
     auto* row = findChild<QDialogButtonBox*>();
     row->layout()->invalidate();

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "ui/widgets/cats.h"
 #include "ui/widgets/colours.h"
 #include "ui/widgets/face.h"
 #include "ui/widgets/glyphs.h"
@@ -150,13 +151,13 @@ QIcon GameStyle::standardIcon(StandardPixmap sign, const QStyleOption* option,
 {
     switch (sign) {
     case SP_MessageBoxInformation:
-        return GlyphIcon(Glyph::Information, colour::LightCyan);
+        return CatIcon(Cat::Informing);
     case SP_MessageBoxWarning:
-        return GlyphIcon(Glyph::Exclamation, colour::Warm);
+        return CatIcon(Cat::Warned);
     case SP_MessageBoxQuestion:
-        return GlyphIcon(Glyph::Question, colour::LightCyan);
+        return CatIcon(Cat::Asking);
     case SP_MessageBoxCritical:
-        return GlyphIcon(Glyph::Stop, QColor(255, 96, 84));
+        return CatIcon(Cat::Burnt);
     default:
         return QProxyStyle::standardIcon(sign, option, widget);
     }
@@ -250,7 +251,7 @@ int GameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
     switch (metric) {
     case PM_MessageBoxIconSize:
-        return Px(36);
+        return Px(72);
     case PM_MenuPanelWidth:
     case PM_MenuVMargin:
         return Px(3);

@@ -1,5 +1,6 @@
 #include "ui/widgets/scene.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 #include "ui/widgets/face.h"
@@ -117,14 +118,19 @@ void Scene::Step()
     }
 }
 
-void Scene::paintEvent(QPaintEvent*)
+void Scene::paintEvent(QPaintEvent* event)
 {
     const double ratio = devicePixelRatioF();
     if (composed.devicePixelRatio() != ratio || composed.size() != size() * ratio) {
         Compose();
     }
     QPainter painter(this);
-    painter.drawPixmap(0, 0, composed);
+    // One rectangle after the other: a region of many is copied pixel by pixel.
+    for (const QRect& part : event->region()) {
+        painter.setClipRect(part);
+        painter.drawPixmap(0, 0, composed);
+    }
+    painter.setClipRegion(event->region());
     if (IsOut(step)) {
         for (const QRectF& place : flickers) {
             PaintDark(painter, PxRect(place));
