@@ -3,7 +3,7 @@
 
 usage: measure.py BUILD [--only PART] [--rounds N] [--minutes N] [--profile]
 
-Ends with 1 when a bound is missed. PART is start, clicks, idle, memory or rules. --profile prints where
+Ends with 1 when a bound is missed. PART is start, peers, clicks, idle, memory or rules. --profile prints where
 the instructions of a start go, by library and by function.
 """
 
@@ -11,7 +11,7 @@ import argparse
 import sys
 from pathlib import Path
 
-from figures import clicks, idle, memory, rules, start
+from figures import clicks, idle, memory, peers, rules, start
 from figures.programs import play_programs
 from figures.table import Table
 
@@ -26,7 +26,7 @@ def print_profile(program, lines=14):
 def main():
     options = argparse.ArgumentParser(usage=__doc__)
     options.add_argument("build", type=Path)
-    options.add_argument("--only", choices=["start", "clicks", "idle", "memory", "rules"])
+    options.add_argument("--only", choices=["start", "peers", "clicks", "idle", "memory", "rules"])
     options.add_argument("--rounds", type=int)
     options.add_argument("--minutes", type=float, default=3, help="of the memory's growth")
     options.add_argument("--profile", action="store_true")
@@ -42,6 +42,8 @@ def main():
                 print_profile(game)
                 print_profile(floor)
             start.timed(table, game, floor, files, given.rounds)
+        if given.only in (None, "peers"):
+            peers.figures(table, game, floor, given.rounds)
         if given.only in (None, "clicks"):
             clicks.figures(table, game, floor, given.rounds)
         if given.only in (None, "idle"):

@@ -26,13 +26,13 @@ def wait_until(test, what, limit=PATIENCE):
 class Display:
     """An X server of our own, at will with a window manager."""
 
-    def __init__(self, managed):
+    def __init__(self, managed, options=()):
         # Without -noreset it begins anew whenever its last client leaves.
         reader, writer = os.pipe()
         self.processes = [
             subprocess.Popen(
                 ["Xvfb", "-displayfd", str(writer), "-screen", "0", SCREEN, "-noreset",
-                 "-nolisten", "tcp"],
+                 "-nolisten", "tcp", *options],
                 pass_fds=[writer], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)]
         os.close(writer)
         with os.fdopen(reader) as told:
