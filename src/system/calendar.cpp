@@ -84,9 +84,10 @@ Date MakeDate(int day, int month, int year)
 
 void AppendTime(std::string& text, TimeOfDay time)
 {
-    AppendPadded(text, time.hour, 2);
-    text += ':';
-    AppendPadded(text, time.minute, 2);
+    const auto digit = [](int number) { return static_cast<char>('0' + number); };
+    const std::array<char, 5> written{digit(time.hour / 10), digit(time.hour % 10), ':',
+                                      digit(time.minute / 10), digit(time.minute % 10)};
+    text.append(written.data(), written.size());
 }
 
 void AppendLongDate(std::string& text, Date date)
