@@ -109,6 +109,7 @@ void BeginWorkingMarriedLife()
 {
     GameState.WifeFound = GameState.Married = True;
     GameState.Sons = 1;
+    GameState.Daughters = 0; // nobody has hundreds of children
     GameState.CurrWork = 5;
     GameState.WorkPay = 10;
     ShowFamily();
