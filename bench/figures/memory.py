@@ -57,7 +57,10 @@ def grown(session, minutes):
     open_every_window(session)
     end, found = time.monotonic() + 60 * minutes, []
     while time.monotonic() < end or len(found) < 3:
-        open_every_window(session)
-        found.append(session.memory("Pss_Anon"))
-    third = len(found) // 3
+        try:
+            open_every_window(session)
+            found.append(session.memory("Pss_Anon"))
+        except RuntimeError:
+            break  # a death ends the span
+    third = max(1, len(found) // 3)
     return statistics.median(found[:third]), statistics.median(found[-third:]), len(found) + 2
