@@ -34,7 +34,7 @@ Running::~Running()
 
 bool Running::Now(What what)
 {
-    return running->life == LifeNumber() && running->count[what] > 0;
+    return running->count[what] > 0 && running->life == LifeNumber();
 }
 
 } // namespace torvenhall

@@ -1,5 +1,7 @@
 #include "core/shown.h"
 
+#include <optional>
+
 #include "core/port.h"
 #include "core/remembered.h"
 
@@ -11,10 +13,18 @@ namespace
 
 Remembered<EnumArray<Label, ShownText>> shown;
 
+struct Moment {
+    Date date;
+    TimeOfDay time;
+};
+/// Of the labels whose text nobody has looked at yet.
+Remembered<EnumArray<Label, std::optional<Moment>>> unwritten;
+
 } // namespace
 
 void ShowLabel(Label label, std::string_view text, TextColour colour)
 {
+    (*unwritten)[label].reset();
     // In place: a message is shown anew with each of its letters.
     ShownText& present = (*shown)[label];
     present.text = text;
@@ -22,14 +32,30 @@ void ShowLabel(Label label, std::string_view text, TextColour colour)
     Windows().LabelChanged(label);
 }
 
+void ShowMoment(Label label, Date date, TimeOfDay time)
+{
+    (*unwritten)[label] = {date, time};
+    (*shown)[label].colour = TextColour::LightCyan;
+    Windows().LabelChanged(label);
+}
+
 const ShownText& ShownAt(Label label)
 {
-    return (*shown)[label];
+    ShownText& present = (*shown)[label];
+    if (auto& moment = (*unwritten)[label]) {
+        present.text.clear();
+        AppendLongDate(present.text, moment->date);
+        present.text += " г. - ";
+        AppendTime(present.text, moment->time);
+        moment.reset();
+    }
+    return present;
 }
 
 void ForgetShown()
 {
     *shown = {};
+    *unwritten = {};
 }
 
 } // namespace torvenhall

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/labels.h"
+#include "system/calendar.h"
 
 namespace torvenhall
 {
@@ -20,6 +21,9 @@ struct ShownText {
 
 /// Shows a text in a main-window label.
 void ShowLabel(Label label, std::string_view text, TextColour colour = TextColour::LightCyan);
+/// Shows a day and a time of day, "1 января 2001 г. - 00:30". They change more
+/// often than somebody looks: the text is only made for whoever asks.
+void ShowMoment(Label label, Date date, TimeOfDay time);
 /// What the label shows now.
 const ShownText& ShownAt(Label label);
 /// Empties every label, as no main window is left to show it.

@@ -13,7 +13,7 @@ void ShowTime()
     if (Running::Now(Running::What::Day)) {
         shown = std::chrono::sys_days{shown} + std::chrono::days{1};
     }
-    ShowLabel(Label::lblTime, LongDateText(shown) + " г. - " + TimeText(GameState.GameTime));
+    ShowMoment(Label::lblTime, shown, GameState.GameTime);
 }
 
 } // namespace torvenhall

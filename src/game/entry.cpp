@@ -31,30 +31,33 @@ bool LifeEndsIn(const std::function<void()>& body)
     return false;
 }
 
-void Enter(Entry entry, const std::function<void()>& body)
+void Live(Entry entry, const std::function<void()>& body)
+{
+    BeginRoutine(entry);
+    if (LifeEndsIn(body)) {
+        LifeEndsIn(NewGame);
+    }
+}
+
+void Enter(const std::function<void()>& routine)
 {
     if (ProgramHasEnded()) {
         return;
     }
     const Waiting outer; // a routine that causes another one goes on as itself
-    Windows().Run([entry, body] {
-        BeginRoutine(entry);
-        if (LifeEndsIn(body)) {
-            LifeEndsIn(NewGame);
-        }
-    });
+    Windows().Run(routine);
 }
 
 } // namespace
 
 void EnterRules(const std::function<void()>& handler)
 {
-    Enter(Entry::Handler, handler);
+    Enter([handler] { Live(Entry::Handler, handler); });
 }
 
 void EnterTick()
 {
-    Enter(Entry::Tick, ClockTick);
+    Enter([] { Live(Entry::Tick, ClockTick); });
 }
 
 } // namespace torvenhall

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "core/quickdice.h"
+#include "core/random.h"
 #include "core/silentfrontend.h"
 #include "lives/policy.h"
 #include "lives/story.h"
@@ -22,15 +22,15 @@ public:
 };
 
 /// Dice whose system timer is such a clock: a life repeats itself.
-class SteppedDice : public QuickDice
+class SteppedDice : public RandomDice
 {
 public:
     SteppedDice(std::uint64_t firstValue, const StepClock& timer)
-        : QuickDice(firstValue), clock(timer)
+        : RandomDice(firstValue), clock(timer)
     {
     }
-    void Randomize() override { QuickDice::Randomize(clock.seconds); }
-    using QuickDice::Randomize;
+    void Randomize() override { RandomDice::Randomize(clock.seconds); }
+    using RandomDice::Randomize;
 
 private:
     const StepClock& clock;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <cstddef>
 #include <vector>
 
 #include "system/convert.h"
@@ -19,9 +21,24 @@ constexpr std::array<std::string_view, 12> MonthsInGenitive{
     "января", "февраля", "марта",    "апреля",  "мая",    "июня",
     "июля",   "августа", "сентября", "октября", "ноября", "декабря"};
 
-std::string Padded(const std::string& text, std::size_t digits)
+void AppendPadded(std::string& text, int number, std::ptrdiff_t digits)
 {
-    return text.size() < digits ? std::string(digits - text.size(), '0') + text : text;
+    constexpr int mostZeros = 4;
+    std::array<char, 16> written{'0', '0', '0', '0'};
+    char* const first = written.data() + mostZeros;
+    const char* const end = std::to_chars(first, written.data() + written.size(), number).ptr;
+    const std::ptrdiff_t zeros = std::clamp<std::ptrdiff_t>(digits - (end - first), 0, mostZeros);
+    text.append(first - zeros, static_cast<std::size_t>(end - first + zeros));
+}
+
+void AppendDay(std::string& text, Date date, std::ptrdiff_t digits)
+{
+    AppendPadded(text, static_cast<int>(unsigned{date.day()}), digits);
+}
+
+void AppendYear(std::string& text, Date date)
+{
+    AppendPadded(text, int{date.year()}, 4);
 }
 
 int Number(std::string_view digits, std::size_t fewest, std::size_t most)
@@ -40,16 +57,6 @@ std::vector<std::string> Parts(std::string_view text, std::string_view separator
         throw RuntimeError{error::TypeMismatch};
     }
     return parts;
-}
-
-std::string DayText(Date date)
-{
-    return std::to_string(unsigned{date.day()});
-}
-
-std::string YearText(Date date)
-{
-    return Padded(std::to_string(int{date.year()}), 4);
 }
 
 } // namespace
@@ -75,21 +82,46 @@ Date MakeDate(int day, int month, int year)
     return date;
 }
 
+void AppendTime(std::string& text, TimeOfDay time)
+{
+    const auto digit = [](int number) { return static_cast<char>('0' + number); };
+    const std::array<char, 5> written{digit(time.hour / 10), digit(time.hour % 10), ':',
+                                      digit(time.minute / 10), digit(time.minute % 10)};
+    text.append(written.data(), written.size());
+}
+
+void AppendLongDate(std::string& text, Date date)
+{
+    AppendDay(text, date, 1);
+    text += ' ';
+    text += MonthsInGenitive[unsigned{date.month()} - 1];
+    text += ' ';
+    AppendYear(text, date);
+}
+
 std::string TimeText(TimeOfDay time)
 {
-    return Padded(std::to_string(time.hour), 2) + ":" + Padded(std::to_string(time.minute), 2);
+    std::string text;
+    AppendTime(text, time);
+    return text;
 }
 
 std::string DateText(Date date)
 {
-    return Padded(DayText(date), 2) + "." + Padded(std::to_string(unsigned{date.month()}), 2) +
-           "." + YearText(date);
+    std::string text;
+    AppendDay(text, date, 2);
+    text += '.';
+    AppendPadded(text, static_cast<int>(unsigned{date.month()}), 2);
+    text += '.';
+    AppendYear(text, date);
+    return text;
 }
 
 std::string LongDateText(Date date)
 {
-    return DayText(date) + " " + std::string(MonthsInGenitive[unsigned{date.month()} - 1]) + " " +
-           YearText(date);
+    std::string text;
+    AppendLongDate(text, date);
+    return text;
 }
 
 TimeOfDay ReadTime(std::string_view text)

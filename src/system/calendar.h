@@ -38,6 +38,10 @@ std::string DateText(Date date);
 /// locale: "1 января 2001".
 std::string LongDateText(Date date);
 
+/// The same behind a text: what shows every tick asks for no memory.
+void AppendTime(std::string& text, TimeOfDay time);
+void AppendLongDate(std::string& text, Date date);
+
 /// Reads "hh:mm" and "dd.mm.yyyy" (one or two digits each, four for the
 /// year); error 13 for anything else.
 TimeOfDay ReadTime(std::string_view text);

@@ -187,16 +187,24 @@ std::string ReadWholeFile(const std::string& path)
     if (!S_ISREG(status.st_mode)) {
         throw RuntimeError{error::PathFileAccess, path};
     }
+    if (std::cmp_greater(status.st_size, LongestFile)) {
+        throw RuntimeError{error::BadRecordLength, path};
+    }
+    // In one piece; once more finds the end, or what is written meanwhile.
+    constexpr std::size_t more = 4096;
+    std::size_t most = static_cast<std::size_t>(status.st_size) + more;
     std::string bytes;
-    std::array<char, 16384> block;
-    while (bytes.size() <= LongestFile && std::cmp_less_equal(status.st_size, LongestFile)) {
+    while (bytes.size() <= LongestFile) {
+        const std::size_t before = bytes.size();
+        bytes.resize(before + most);
         const ssize_t count =
-            Retried([&] { return ::read(file.Number(), block.data(), block.size()); });
+            Retried([&] { return ::read(file.Number(), bytes.data() + before, most); });
         RaiseUnless(count >= 0, path);
+        bytes.resize(before + static_cast<std::size_t>(count));
         if (count == 0) {
             return bytes;
         }
-        bytes.append(block.data(), static_cast<std::size_t>(count));
+        most = more;
     }
     throw RuntimeError{error::BadRecordLength, path};
 }

@@ -10,7 +10,7 @@ TEST(CommandLine, AnswersWithoutADisplayOrTellsWhatIsWrong)
         {{"--version"}, 0, "1.5"},
         {{"--show", known}, 0, "29.02.2004"},
         {{"--show", "no such game"}, 1, "no such game"},
-        {{"--show", __FILE__}, 1, "1: "}, // which is none of a game's lines
+        {{"--show", TORVENHALL_ASSETS "License.txt"}, 1, ": "}, // which is none of a game's lines
         {{"no such game"}, 1, "no such game"},
         {{"--no-such-option"}, 2, "no-such-option"},
         {{"--tour"}, 2, ""},

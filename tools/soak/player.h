@@ -4,7 +4,7 @@
 #include <deque>
 #include <string>
 
-#include "core/quickdice.h"
+#include "core/random.h"
 #include "system/calendar.h"
 #include "window.h"
 
@@ -42,7 +42,7 @@ private:
     void CheckTime();
 
     Chance chance;
-    QuickDice dice;
+    ReplayableDice dice;
     int level;
     std::string folder;
     Style style = Style::Careless; ///< of this life
