@@ -94,7 +94,7 @@ void PaintWipes(QPainter& painter, const QRectF& plate)
 
 void PaintTubeGlow(QPainter& painter, const QPainterPath& letters, const QColor& ink)
 {
-    for (const auto& [width, alpha] : {std::pair{9.0, 16}, {6.0, 26}, {3.5, 44}, {1.8, 90}}) {
+    for (const auto& [width, alpha] : {std::pair{9.0, 30}, {6.0, 50}, {3.5, 80}, {1.8, 140}}) {
         QColor glow = ink;
         glow.setAlpha(alpha);
         painter.strokePath(
@@ -110,16 +110,16 @@ void PaintChalkGaps(QPainter& painter, const QPainterPath& letters, const QColor
     QRectF place = letters.boundingRect();
     unsigned seed = 12345;
     const double grain = std::max(1.0, UnitScale() * 0.75);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(board);
+    QPainterPath gaps;
     for (double x = place.left(); x < place.right(); x += grain) {
         for (double y = place.top(); y < place.bottom(); y += grain) {
             seed = seed * 1664525U + 1013904223U;
             if (seed >> 24U < 34) {
-                painter.drawRect(QRectF(x, y, grain, grain));
+                gaps.addRect(x, y, grain, grain);
             }
         }
     }
+    painter.fillPath(gaps, board);
     painter.restore();
 }
 
@@ -190,10 +190,9 @@ void SignLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF place = contentsRect();
-    const QPainterPath letters = LettersIn(place);
+    const QPainterPath letters = LettersIn(contentsRect());
     const bool isNeon = sign == Sign::Neon;
-    if (isNeon) {
+    if (isNeon && part == Part::Letters) { // a tube throws light, no shadow
         PaintTubeGlow(painter, letters, PaintOf(sign).shadow);
     }
     if (part == Part::Letters || !isNeon) {
