@@ -32,7 +32,7 @@ constexpr QRectF Ribbon(Left, 5, Inner, 24);
 constexpr double TilesTop = 32;
 constexpr double TileHeight = 38;
 constexpr double ComputerTop = 74;
-constexpr double ComputerHeight = 137;
+constexpr double ComputerHeight = 139;
 // Between the computer and the buttons lies the room. The message line is told
 // at its foot like a subtitle and leaves nothing behind.
 constexpr double HardwareWidth = 262;
@@ -156,7 +156,7 @@ void frmMain::BuildComputer()
     const QRectF settings(hardware.right() + Gap, hardware.bottom() - SettingsHeight, SoftwareWidth,
                           SettingsHeight);
     const QRectF software(settings.left(), ComputerTop, SoftwareWidth,
-                          ComputerHeight - SettingsHeight - Gap);
+                          ComputerHeight - SettingsHeight - 3);
     const auto addHead = [this](const QString& text, const QRectF& panel) {
         scene->AddPanel(panel);
         AddCaption(text, {panel.left() + 8, panel.top() + 2, panel.width() - 16, HeadHeight - 1},
