@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Measures the game against its floor and prints each figure with its bound.
 
-usage: measure.py BUILD [--only PART] [--rounds N] [--minutes N] [--profile]
+usage: measure.py BUILD [--only PART] [--rounds N] [--minutes N] [--portable PROGRAM] [--profile]
 
 Ends with 1 when a bound is missed. PART is start, peers, clicks, idle, memory or rules. --profile prints where
 the instructions of a start go, by library and by function.
@@ -29,6 +29,8 @@ def main():
     options.add_argument("--only", choices=["start", "peers", "clicks", "idle", "memory", "rules"])
     options.add_argument("--rounds", type=int)
     options.add_argument("--minutes", type=float, default=3, help="of the memory's growth")
+    options.add_argument("--portable", type=Path, metavar="PROGRAM",
+                         help="the game with its toolkit built in, beside its files")
     options.add_argument("--profile", action="store_true")
     given = options.parse_args()
 
@@ -43,7 +45,7 @@ def main():
                 print_profile(floor)
             start.timed(table, game, floor, files, given.rounds)
         if given.only in (None, "peers"):
-            peers.figures(table, game, floor, given.rounds)
+            peers.figures(table, game, floor, given.rounds, given.portable)
         if given.only in (None, "clicks"):
             clicks.figures(table, game, floor, given.rounds)
         if given.only in (None, "idle"):

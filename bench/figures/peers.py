@@ -1,5 +1,6 @@
-"""The first window of the game beside those of well-known small games, seen from
-outside, as the probe knows this toolkit only: in the display's own memory."""
+"""The first window of the game beside those of well-known small games, and of the
+game that brings its toolkit along, seen from outside, as the probe knows the
+installed toolkit only: in the display's own memory."""
 
 import mmap
 import os
@@ -13,6 +14,7 @@ from pathlib import Path
 from figures.surroundings import PATIENCE, Display, Place
 
 PEERS = ("sgt-mines", "gnome-mines", "kpat")
+PORTABLE = "portable"
 ROUNDS = 11
 STRIDE = 97  # every so many pixels one is looked at
 LEAST = 20_000 // STRIDE  # that have changed, as for the probe
@@ -57,13 +59,13 @@ def seconds_to_window(command, environment, folder, screen):
             process.wait()
 
 
-def figures(table, game, floor, rounds):
+def figures(table, game, floor, rounds, portable=None):
     path = os.environ["PATH"] + ":/usr/games"
     found = {name: shutil.which(name, path=path) for name in PEERS}
     for name in (name for name, program in found.items() if not program):
         table.note(f"not compared with {name}: it is not installed")
     found = {name: program for name, program in found.items() if program}
-    if not found:
+    if not found and not portable:
         return
     places = {name: Place(program) for name, program in found.items()}
     took = {name: [] for name in ("game", "floor", *found)}
@@ -71,6 +73,10 @@ def figures(table, game, floor, rounds):
         screen = Screen(folder)
         starts = {"game": (game.command(), game.place), "floor": (floor.command(), floor.place)}
         starts.update({name: ([found[name]], places[name]) for name in found})
+        if portable:
+            places[PORTABLE] = Place(portable, [portable.with_name(file.name) for file in game.place.shipped])
+            took[PORTABLE] = []
+            starts[PORTABLE] = ([str(places[PORTABLE].program), "--scale", "1"], places[PORTABLE])
         for number in range((rounds or ROUNDS) + 1):  # the first makes their caches
             for name, (command, place) in starts.items():
                 place.forget()
@@ -80,6 +86,8 @@ def figures(table, game, floor, rounds):
                     took[name].append(1000 * seconds)
     table.heading("First window, seen from outside (the peer in the floor's column)")
     table.told("the floor's", took["game"], took["floor"], "ms")
+    if portable:
+        table.ratio("the game with its own toolkit", took[PORTABLE], took["floor"], 0.75, "ms")
     for name in found:
         bound = 1.0 if name == "sgt-mines" else None
         if bound:

@@ -76,7 +76,8 @@ class Place:
         for name in ("home", "program", "run"):
             (self.folder / name).mkdir(mode=0o700)
         self.program = self.folder / "program" / Path(program).name
-        for file in (Path(program), *shipped):
+        self.shipped = [Path(file) for file in shipped]
+        for file in (Path(program), *self.shipped):
             shutil.copy(file, self.folder / "program")
 
     def environment(self, display, **more):

@@ -34,4 +34,14 @@ void PaintRoom(QPainter& painter, const RoomLook& look, double pixelRatio)
     painter.restore();
 }
 
+QRectF ChangedPlace(const RoomLook& before, const RoomLook& after)
+{
+    if (before == after) {
+        return {};
+    }
+    RoomLook onThatDay = before;
+    onThatDay.day = after.day;
+    return onThatDay == after ? CalendarPlace : LitBand;
+}
+
 } // namespace torvenhall

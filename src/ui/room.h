@@ -19,6 +19,9 @@ inline constexpr double RoomTop = 157;
 /// present scale (UnitScale()) from the painter's origin on.
 void PaintRoom(QPainter& painter, const RoomLook& look, double pixelRatio);
 
+/// Where the room looks otherwise after a change, in its units; nowhere if not.
+QRectF ChangedPlace(const RoomLook& before, const RoomLook& after);
+
 /// A small place where something moves. paint() draws one step of the quiet
 /// life (4 a second) over what PaintRoom drew there, which has to be restored
 /// before each step; it leaves what lies outside the place alone.

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "ui/roomparts.h"
-#include "ui/widgets/strips.h"
 
 namespace torvenhall
 {
@@ -12,8 +11,6 @@ namespace torvenhall
 namespace
 {
 
-/// Only the band between the panels is lit; the rest is dark anyway.
-constexpr QRectF Band(0, 44, 518, 182);
 /// What of it no panel covers.
 constexpr QRectF Free(0, 50, 518, 173);
 /// Light has no edges: a pixel of its map covers two units.
@@ -107,8 +104,7 @@ void AddLight(QPainter& painter, const Light& light, double strength)
     painter.save();
     painter.translate(light.centre);
     painter.scale(light.across, light.down);
-    const QRectF reach(-1, -1, 2, 2);
-    InStrips(painter, reach, [&] { painter.fillRect(reach, gradient); });
+    painter.fillRect(QRectF(-1, -1, 2, 2), gradient);
     painter.restore();
 }
 
@@ -131,7 +127,7 @@ void AddSun(QPainter& painter, const RoomLook& look)
     QPainterPath beams;
     beams.addPolygon(QPolygonF{{146, 66}, {192, 66}, {334, 190}, {214, 190}});
     beams.addPolygon(QPolygonF{{202, 66}, {236, 66}, {412, 190}, {356, 190}});
-    InStrips(painter, beams.boundingRect(), [&] { painter.fillPath(beams, fall); });
+    painter.fillPath(beams, fall);
 }
 
 /// A cat's eyes keep what light there is.
@@ -173,8 +169,7 @@ void PaintRims(QPainter& painter, const RoomLook& look, double lamp)
     warm.cubicTo(287, 165, 281.4, 166, 275, 170);
     painter.save();
     painter.setCompositionMode(QPainter::CompositionMode_Screen);
-    const QColor light(255, 190, 108, static_cast<int>(150 * lamp));
-    InStrips(painter, warm.boundingRect(), [&] { painter.fillPath(warm, light); });
+    painter.fillPath(warm, QColor(255, 190, 108, static_cast<int>(150 * lamp)));
     if (look.Running()) {
         QPainterPath cool(QPointF(304.2, 120.5)); // mouth and jaw
         cool.cubicTo(304.4, 125.4, 306.4, 130.8, 311.6, 132.6);
@@ -199,7 +194,7 @@ void PaintLampGlow(QPainter& painter, const RoomLook& look, double lamp)
         QPainterPath cone;
         cone.addPolygon(
             QPolygonF{{254, 106}, {275.5, 97}, {346 + 1.6 * wider, 180}, {272 - wider, 180}});
-        InStrips(painter, cone.boundingRect(), [&] { painter.fillPath(cone, air); });
+        painter.fillPath(cone, air);
     }
     painter.restore();
     PaintRims(painter, look, lamp);
@@ -232,12 +227,12 @@ QColor LightAt(const RoomLook& look, QPointF place)
 
 void PaintLight(QPainter& painter, const RoomLook& look)
 {
-    QImage map((Band.size() * MapScale).toSize(), QImage::Format_RGB32);
+    QImage map((LitBand.size() * MapScale).toSize(), QImage::Format_RGB32);
     map.fill(HourOf(look).everywhere);
     QPainter lights(&map);
     lights.setRenderHint(QPainter::Antialiasing);
     lights.scale(MapScale, MapScale);
-    lights.translate(-Band.topLeft());
+    lights.translate(-LitBand.topLeft());
     lights.setCompositionMode(QPainter::CompositionMode_Plus);
     EachLight(look,
               [&](const Light& light, double strength) { AddLight(lights, light, strength); });
@@ -245,16 +240,22 @@ void PaintLight(QPainter& painter, const RoomLook& look)
         AddSun(lights, look);
     }
     lights.end();
+    // Enlarged first: to enlarge while it is multiplied takes five times as long.
+    const QRect pixels = painter.deviceTransform().mapRect(LitBand).toAlignedRect();
+    map = map.scaled(pixels.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const double ratio = painter.device()->devicePixelRatioF();
+    map.setDevicePixelRatio(ratio);
     painter.save();
+    painter.resetTransform();
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
-    InStrips(painter, Band, [&] { painter.drawImage(Band, map); });
+    painter.drawImage(QPointF(pixels.topLeft()) / ratio, map);
     painter.restore();
 }
 
 void PaintGlow(QPainter& painter, const RoomLook& look)
 {
     painter.save();
-    painter.setClipRect(Free); // not into the gaps between the panels
+    painter.setClipRect(Free, Qt::IntersectClip); // not into the gaps between the panels
     if (const double lamp = HourOf(look).lamp; lamp > 0) {
         PaintLampGlow(painter, look, lamp);
         PaintLampsGlow(painter, look, lamp);

@@ -6,7 +6,6 @@
 #include "ui/roomparts.h"
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/qtext.h"
-#include "ui/widgets/strips.h"
 
 namespace torvenhall
 {
@@ -27,7 +26,7 @@ void Shadow(QPainter& painter, const QRectF& thing)
     for (int i = 0; i < 3; ++i) {
         const double grown = 0.6 - 0.6 * i;
         const QRectF shade = thing.adjusted(1 - grown, 1.2 - grown, 1.6 + grown, 2 + grown);
-        InStrips(painter, shade, [&] { painter.fillRect(shade, QColor(40, 22, 14, 46)); });
+        painter.fillRect(shade, QColor(40, 22, 14, 46));
     }
 }
 

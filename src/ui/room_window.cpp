@@ -3,7 +3,6 @@
 
 #include "ui/room.h"
 #include "ui/roomparts.h"
-#include "ui/widgets/strips.h"
 
 namespace torvenhall
 {
@@ -83,7 +82,7 @@ void PaintSky(QPainter& painter, const RoomLook& look)
     sky.setColorAt(0, QColor(colours.top));
     sky.setColorAt(0.55, QColor(colours.middle));
     sky.setColorAt(1, QColor(colours.low));
-    InStrips(painter, Glass, [&] { painter.fillRect(Glass, sky); });
+    painter.fillRect(Glass, sky);
     if (Dark(look)) {
         PaintStars(painter, look);
     } else {
@@ -94,7 +93,7 @@ void PaintSky(QPainter& painter, const RoomLook& look)
         sun.setColorAt(0, QColor(255, 224, 150, 210));
         sun.setColorAt(0.3, QColor(255, 190, 110, 110));
         sun.setColorAt(1, QColor(255, 170, 90, 0));
-        InStrips(painter, Glass, [&] { painter.fillRect(Glass, sun); });
+        painter.fillRect(Glass, sun);
     }
 }
 
@@ -105,8 +104,7 @@ void PaintSheen(QPainter& painter, const RoomLook& look)
     for (const double x : {24.0, 74.0}) {
         QPainterPath sheen;
         sheen.addPolygon(QPolygonF{{x + 16, Top}, {x + 26, Top}, {x - 6, 152}, {x - 16, 152}});
-        InStrips(painter, sheen.boundingRect(),
-                 [&] { painter.fillPath(sheen, QColor(255, 255, 255, strength)); });
+        painter.fillPath(sheen, QColor(255, 255, 255, strength));
     }
     if (Dark(look)) {
         QRadialGradient lamp(QPointF(96, 112), 20);

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRectF>
 
 #include "ui/roomlook.h"
 
@@ -12,6 +13,11 @@
 
 namespace torvenhall
 {
+
+/// Only this band between the panels is lit; the rest is dark whatever the life.
+inline constexpr QRectF LitBand(0, 44, 518, 182);
+/// Of the calendar's leaf, with its shadow.
+inline constexpr QRectF CalendarPlace(156, 72, 38, 42);
 
 /// What the light of this hour leaves of white at a place, the lamp and the
 /// screen included.

@@ -22,8 +22,9 @@ QRect PxPlace(const RoomMotion& motion)
 void RoomScene::Refresh()
 {
     if (const RoomLook present = PresentRoom(); look != present) {
+        const QRectF place = ChangedPlace(look, present).translated(0, RoomTop);
         look = present;
-        DrawAnew();
+        DrawAnew(PxRect(place).adjusted(-1, -1, 1, 1)); // soft edges
     }
 }
 

@@ -6,7 +6,6 @@
 
 #include "ui/widgets/colours.h"
 #include "ui/widgets/metrics.h"
-#include "ui/widgets/strips.h"
 
 namespace torvenhall
 {
@@ -49,7 +48,7 @@ void PaintPanel(QPainter& painter, const QRectF& place, const QColor& tint, bool
     fill.setColorAt(1, tint);
     painter.setBrush(fill);
     painter.setPen(bordered ? QPen(colour::Border, line) : QPen(Qt::NoPen));
-    InStrips(painter, place, [&] { painter.drawRoundedRect(plate, radius, radius); });
+    painter.drawRoundedRect(plate, radius, radius);
 }
 
 void PaintWall(QPainter& painter, const QRectF& place)

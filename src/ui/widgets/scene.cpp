@@ -73,8 +73,13 @@ void Scene::AddSign(const QRectF& place, Sign sign)
 
 void Scene::DrawAnew()
 {
-    composed = {};
-    update();
+    DrawAnew(rect());
+}
+
+void Scene::DrawAnew(const QRect& place)
+{
+    outdated += place;
+    update(place);
 }
 
 void Scene::PaintBackground(QPainter& painter)
@@ -90,9 +95,17 @@ void Scene::PaintBackground(QPainter& painter)
 void Scene::Compose()
 {
     const double ratio = devicePixelRatioF();
-    composed = QPixmap(size() * ratio);
-    composed.setDevicePixelRatio(ratio);
+    if (composed.devicePixelRatio() != ratio || composed.size() != size() * ratio) {
+        composed = QPixmap(size() * ratio);
+        composed.setDevicePixelRatio(ratio);
+        outdated = rect();
+    }
+    if (outdated.isEmpty()) {
+        return;
+    }
     QPainter painter(&composed);
+    painter.setClipRect(outdated.boundingRect());
+    outdated = {};
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), colour::Night);
     PaintBackground(painter);
@@ -120,10 +133,7 @@ void Scene::Step()
 
 void Scene::paintEvent(QPaintEvent* event)
 {
-    const double ratio = devicePixelRatioF();
-    if (composed.devicePixelRatio() != ratio || composed.size() != size() * ratio) {
-        Compose();
-    }
+    Compose();
     QPainter painter(this);
     // One rectangle after the other: a region of many is copied pixel by pixel.
     for (const QRect& part : event->region()) {

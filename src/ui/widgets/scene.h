@@ -2,6 +2,7 @@
 
 #include <QPixmap>
 #include <QRectF>
+#include <QRegion>
 #include <QWidget>
 
 #include <optional>
@@ -43,8 +44,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     /// Draws what lies behind the panels, by default the picture.
     virtual void PaintBackground(QPainter& painter);
-    /// What lies behind the panels has changed.
+    /// What lies behind the panels has changed, everywhere or in a place in pixels.
     void DrawAnew();
+    void DrawAnew(const QRect& place);
 
 private:
     struct Plate {
@@ -52,10 +54,12 @@ private:
         Panel kind;
         std::optional<Sign> sign;
     };
+    /// Brings the composed picture up to date.
     void Compose();
 
     std::string picture; ///< its embedded name
     QPixmap composed;    ///< picture and panels, ready to be copied to the screen
+    QRegion outdated;    ///< where it is to be composed anew
     std::vector<Plate> plates;
     std::vector<QRectF> flickers;
     int step = 0;

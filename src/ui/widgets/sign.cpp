@@ -81,7 +81,7 @@ void PaintStripes(QPainter& painter, const QRectF& plate)
 void PaintWipes(QPainter& painter, const QRectF& plate)
 {
     painter.save();
-    painter.setClipRect(plate);
+    painter.setClipRect(plate, Qt::IntersectClip);
     for (int i = 0; i < 7; ++i) {
         const double x = plate.left() + plate.width() * (0.07 + 0.14 * i);
         const double y = plate.top() + plate.height() * (i % 3 * 0.3 + 0.2);
@@ -106,7 +106,7 @@ void PaintTubeGlow(QPainter& painter, const QPainterPath& letters, const QColor&
 void PaintChalkGaps(QPainter& painter, const QPainterPath& letters, const QColor& board)
 {
     painter.save();
-    painter.setClipPath(letters);
+    painter.setClipPath(letters, Qt::IntersectClip);
     QRectF place = letters.boundingRect();
     unsigned seed = 12345;
     const double grain = std::max(1.0, UnitScale() * 0.75);
