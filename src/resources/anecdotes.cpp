@@ -95,17 +95,18 @@ std::string RandomLine(const std::string& path)
 std::string GetAnecdote()
 {
     const std::string path = ProgramDirectory() + "ANECDOT.DAT";
+    std::string anecdote;
+    const RuntimeError failure = ErrorOf([&] { anecdote = RandomLine(path); });
+    if (failure.number == 0) {
+        return anecdote;
+    }
+    // Looked for only now: on the way to a joke the file is opened once.
     if (!FileExists(path)) {
         TellAboutFile("не найден", "Ошибка 541");
         return {};
     }
-    std::string anecdote;
-    const RuntimeError failure = ErrorOf([&] { anecdote = RandomLine(path); });
-    if (failure.number != 0) {
-        ReportError(failure.number, failure.path);
-        throw failure;
-    }
-    return anecdote;
+    ReportError(failure.number, failure.path);
+    throw failure;
 }
 
 } // namespace torvenhall

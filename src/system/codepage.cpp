@@ -55,6 +55,10 @@ std::string ToWindows1251(std::string_view utf8)
 
 std::string FromWindows1251(std::string_view bytes)
 {
+    const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < FirstInTable; };
+    if (std::ranges::all_of(bytes, isAscii)) { // as most lines of a saved game are
+        return std::string(bytes);
+    }
     std::string utf8;
     utf8.reserve(2 * bytes.size());
     for (const char character : bytes) {

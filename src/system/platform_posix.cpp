@@ -190,9 +190,10 @@ std::string ReadWholeFile(const std::string& path)
     if (std::cmp_greater(status.st_size, LongestFile)) {
         throw RuntimeError{error::BadRecordLength, path};
     }
-    // In one piece; once more finds the end, or what is written meanwhile.
+    // In one piece; once more where that was not all, or more is written meanwhile.
     constexpr std::size_t more = 4096;
-    std::size_t most = static_cast<std::size_t>(status.st_size) + more;
+    const auto whole = static_cast<std::size_t>(status.st_size);
+    std::size_t most = whole + more;
     std::string bytes;
     while (bytes.size() <= LongestFile) {
         const std::size_t before = bytes.size();
@@ -201,7 +202,7 @@ std::string ReadWholeFile(const std::string& path)
             Retried([&] { return ::read(file.Number(), bytes.data() + before, most); });
         RaiseUnless(count >= 0, path);
         bytes.resize(before + static_cast<std::size_t>(count));
-        if (count == 0) {
+        if (count == 0 || bytes.size() == whole) {
             return bytes;
         }
         most = more;
