@@ -10,6 +10,10 @@ readonly CACHE=${TORVENHALL_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/torvenhall}
 readonly JOBS=${TORVENHALL_JOBS:-$(nproc)}
 VERSION=$(sed -n 's/^project(torvenhall VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 readonly VERSION
+# What the archives' files are dated: the last change of the sources.
+RELEASED=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || stat -c %Y CHANGELOG.md)}
+export SOURCE_DATE_EPOCH=$RELEASED
+readonly RELEASED
 
 # What the game does without. A new kind of widget may need its part back:
 # take it out of here and remove the toolkit's folder from the cache.
@@ -57,4 +61,22 @@ source_of() {
         found=$(find "$CACHE/sources" -maxdepth 1 -type d -name "$package-[0-9]*" | head -n 1)
     fi
     printf '%s\n' "$found"
+}
+
+# Lays beside the program what is shipped with it, with the licences of what it
+# brings along; every file of the folder gets the release's own time.
+lay_files() {
+    local folder=$1 package
+    cp assets/ANECDOT.DAT assets/License.txt assets/Readme.txt "$folder"
+    {
+        cat LICENSE
+        printf '\n%s\n' "The program brings along, under their own licences, the toolkit Qt" \
+            "(LGPL 3 or GPL 2 or later; its source is the distribution's package qt6-base)" \
+            "and what the following lists name."
+        for package in fonts-paratype $SHIPPED_PARTS; do
+            printf '\n==== %s ====\n\n' "$package"
+            cat "/usr/share/doc/$package/copyright"
+        done
+    } >"$folder/LICENSE"
+    find "$folder" -exec touch -h -d "@$RELEASED" {} +
 }

@@ -18,6 +18,13 @@
 #include "ui/widgets/fontset.h"
 #include "ui/widgets/pictures.h"
 
+// A library's resources are registered by name, which must be in the global
+// namespace. Among these are the toolkit's words, where it is built in.
+static void RegisterWords()
+{
+    Q_INIT_RESOURCE(typefaces);
+}
+
 namespace torvenhall
 {
 
@@ -57,7 +64,9 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
     setQuitOnLastWindowClosed(false); // a new game closes every window
     installEventFilter(this);         // until the first window is painted
     // The toolkit's own words, in the menus of text fields.
-    if (words.load("qtbase_ru", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    RegisterWords();
+    if (words.load(":/words/qtbase_ru.qm") ||
+        words.load("qtbase_ru", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         installTranslator(&words);
     }
 }

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QLocale>
 
+#include <cstdlib>
 #include <iostream>
 
 #include "core/traps.h"
@@ -20,7 +21,7 @@ namespace
 {
 
 constexpr double SmallestScale = 1, LargestScale = 4;
-enum ExitCode { Done = 0, Failed = 1, Misused = 2 };
+enum ExitCode { Done = 0, Failed = 1, Misused = 2, NoDisplay = 3 };
 
 bool InRussian()
 {
@@ -179,6 +180,17 @@ CommandLine ReadCommandLine(const QStringList& arguments)
         }
     }
     return line;
+}
+
+void EndWithoutDisplay()
+{
+    std::cerr << "torvenhall: "
+              << Said("здесь не на чем играть: экран не найден. Окна можно нарисовать в файлы: "
+                      "QT_QPA_PLATFORM=offscreen torvenhall --tour DIR",
+                      "there is no display to play on. The windows can be drawn into files: "
+                      "QT_QPA_PLATFORM=offscreen torvenhall --tour DIR")
+              << std::endl;
+    std::_Exit(NoDisplay);
 }
 
 } // namespace torvenhall

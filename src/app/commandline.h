@@ -27,4 +27,7 @@ struct CommandLine {
 /// in Russian where the player's locale is, else in English.
 CommandLine ReadCommandLine(const QStringList& arguments);
 
+/// Tells that there is no display to play on, and ends the program with code 3.
+[[noreturn]] void EndWithoutDisplay();
+
 } // namespace torvenhall

@@ -36,21 +36,33 @@ QString UserDataFolder()
     return (QDir::isAbsolutePath(data) ? data : QDir::homePath() + "/.local/share") + "/torvenhall";
 }
 
+void TellNoDisplay(QtMsgType kind, const QMessageLogContext&, const QString& message)
+{
+    if (kind == QtFatalMsg) {
+        torvenhall::EndWithoutDisplay();
+    }
+    std::cerr << torvenhall::Utf8(message) << '\n';
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     using namespace torvenhall;
 
+    SpeakToConsole();
     QStringList arguments;
-    std::transform(argv, argv + argc, std::back_inserter(arguments),
-                   [](const char* argument) { return QString::fromLocal8Bit(argument); });
+    std::ranges::transform(ProgramArguments(argc, argv), std::back_inserter(arguments), Text);
     const CommandLine options = ReadCommandLine(arguments);
     if (options.ended) {
         return *options.ended;
     }
     Application::Prepare();
+    // All that can fail so early is to find a display, which the toolkit would answer
+    // with a core dump.
+    const QtMessageHandler told = qInstallMessageHandler(TellNoDisplay);
     Application application(argc, argv);
+    qInstallMessageHandler(told);
     SetDesktopFontPoints(options.fontPoints > 0 ? options.fontPoints : DesktopFontPoints());
     ApplyTheme(application);
     FindDirectories(Utf8(QCoreApplication::applicationDirPath()), "../share/torvenhall",

@@ -47,8 +47,8 @@ void OpenInSystemEditor(const std::string& folder, const std::string& path)
         TellMissing("Директория '" + folder + "' не найдена!!!");
     } else if (!FileExists(editor)) {
         TellMissing("Файл '" + editor + "' не найден!!!");
-    } else {
-        Windows().StartProgram(editor, {path});
+    } else if (!Windows().StartProgram(editor, {path})) {
+        TellMissing("Файл '" + editor + "' не найден!!!");
     }
 }
 
@@ -105,10 +105,8 @@ void ShowReadme()
 void StartSysInfo()
 {
     const std::string tool = SystemInformationTool();
-    if (tool.empty()) {
+    if (tool.empty() || !Windows().StartProgram(tool, {})) {
         MsgBox("System Information Is Unavailable At This Time", "General Error", Icon::Critical);
-    } else {
-        Windows().StartProgram(tool, {});
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "system/files.h"
 
@@ -36,6 +37,12 @@ bool GetKeyValue(const std::string& keyName, const std::string& valueName, std::
 /// From now on the memory of a closed window's picture goes back to the system at
 /// once, where the platform would keep it.
 void GiveMemoryBack();
+
+/// What the program was started with, its own name first, in UTF-8.
+std::vector<std::string> ProgramArguments(int count, char** given);
+/// From now on what the program tells appears on the console from which it was
+/// started, where the platform gives a program with windows none by itself.
+void SpeakToConsole();
 
 /// From now on a request to end the program (a logout, the terminal closed)
 /// does not end it but makes the returned descriptor readable. -1 where the

@@ -277,6 +277,13 @@ void GiveMemoryBack()
 #endif
 }
 
+std::vector<std::string> ProgramArguments(int count, char** given)
+{
+    return {given, given + count};
+}
+
+void SpeakToConsole() {} // it has one
+
 int WatchEndRequests()
 {
     static std::array<int, 2> ends{-1, -1};

@@ -2,13 +2,17 @@
 #include <array>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif
 #include <windows.h>
+
+#include <shellapi.h>
 
 // The system's header renames these.
 #undef DeleteFile
@@ -155,6 +159,19 @@ private:
 /// itself tells.
 constexpr std::size_t LongestPath = 32768;
 
+/// The text with the system's own values in the place of "%SystemRoot%" and its like.
+std::string Expanded(const wchar_t* text)
+{
+    std::wstring expanded(LongestPath, L'\0');
+    const DWORD length =
+        ::ExpandEnvironmentStringsW(text, expanded.data(), static_cast<DWORD>(expanded.size()));
+    if (length == 0 || length > expanded.size()) {
+        return Utf8(text);
+    }
+    expanded.resize(length - 1); // which counts the end
+    return Utf8(expanded);
+}
+
 std::string HexadecimalFromLast(DWORD number)
 {
     std::array<char, 16> text{};
@@ -258,6 +275,39 @@ std::string PlatformNameTrouble(std::string_view name)
 
 void GiveMemoryBack() {} // it does by itself
 
+std::vector<std::string> ProgramArguments(int, char**)
+{
+    int count = 0;
+    const std::unique_ptr<wchar_t*, decltype(&::LocalFree)> given(
+        ::CommandLineToArgvW(::GetCommandLineW(), &count), ::LocalFree);
+    std::vector<std::string> arguments;
+    for (int i = 0; given && i < count; ++i) {
+        arguments.push_back(Utf8(given.get()[i]));
+    }
+    return arguments;
+}
+
+void SpeakToConsole()
+{
+    // What is told into a file or a pipe goes there as it is.
+    const auto isOpen = [](DWORD stream) {
+        const HANDLE handle = ::GetStdHandle(stream);
+        return handle != nullptr && handle != INVALID_HANDLE_VALUE &&
+               ::GetFileType(handle) != FILE_TYPE_UNKNOWN;
+    };
+    const bool told = isOpen(STD_OUTPUT_HANDLE), troubled = isOpen(STD_ERROR_HANDLE);
+    if ((told && troubled) || ::AttachConsole(ATTACH_PARENT_PROCESS) == 0) {
+        return;
+    }
+    ::SetConsoleOutputCP(CP_UTF8);
+    if (!told) {
+        std::freopen("CONOUT$", "w", stdout);
+    }
+    if (!troubled) {
+        std::freopen("CONOUT$", "w", stderr);
+    }
+}
+
 int WatchEndRequests()
 {
     return -1; // the toolkit is told of a logout by itself
@@ -301,7 +351,7 @@ bool GetKeyValue(const std::string& keyName, const std::string& valueName, std::
         value = HexadecimalFromLast(number);
     } else {
         // The last element is never written, so the text always ends.
-        value = Utf8(data.data());
+        value = type == REG_EXPAND_SZ ? Expanded(data.data()) : Utf8(data.data());
     }
     return true;
 }

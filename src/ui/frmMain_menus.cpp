@@ -55,15 +55,17 @@ void frmMain::AddSeparator(QMenu* menu, const char* name)
     menu->addSeparator()->setObjectName(name);
 }
 
+/// The keys in both layouts: where a machine has the Russian one only, nothing else
+/// tells which letter is meant.
 void frmMain::BuildFileMenu()
 {
     QMenu* menu = AddMenu("&Файл");
     AddItem(menu, "mnuFileNewgame", "Новая игра", NewGame);
     AddSeparator(menu, "mnuFileSep1");
     AddItem(menu, "mnuFileSavegame", "Сохранить игру...", SaveGame)
-        ->setShortcut(QKeySequence("Ctrl+S"));
+        ->setShortcuts({QKeySequence("Ctrl+S"), QKeySequence("Ctrl+Ы")});
     AddItem(menu, "mnuFileLoadgame", "Загрузить игру...", LoadGame)
-        ->setShortcut(QKeySequence("Ctrl+O"));
+        ->setShortcuts({QKeySequence("Ctrl+O"), QKeySequence("Ctrl+Щ")});
     AddSeparator(menu, "mnuFileSep2");
     AddItem(menu, "mnuFileExit", "Выход", CloseProgram);
 }
