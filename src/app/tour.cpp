@@ -155,6 +155,7 @@ private:
         Hover(*main.findChild<QLabel*>("lblHealth"));
         Save("frmMain-past", &main);
         EnterRules([] { Live(SampleLives()[1]); });
+        GameState.GameSpeed = 30; // whose mark the menu shows
         for (QAction* action : main.menuBar()->actions()) {
             QMenu* menu = action->menu();
             menu->popup(
@@ -162,6 +163,7 @@ private:
             Save("menu-" + menu->actions().first()->objectName(), menu);
             menu->close();
         }
+        GameState.GameSpeed = 0;
     }
 
     /// A window, and a place in town also with one of its rows under the mouse.

@@ -32,14 +32,14 @@ constexpr QRectF Ribbon(Left, 5, Inner, 24);
 constexpr double TilesTop = 32;
 constexpr double TileHeight = 38;
 constexpr double ComputerTop = 74;
-constexpr double ComputerHeight = 139;
+constexpr double ComputerHeight = 143;
 // Between the computer and the buttons lies the room. The message line is told
 // at its foot like a subtitle and leaves nothing behind.
 constexpr double HardwareWidth = 262;
 constexpr double SoftwareWidth = Inner - Gap - HardwareWidth;
 constexpr double HeadHeight = 16;
 constexpr double RowHeight = 13;
-constexpr double SettingsHeight = 28;
+constexpr double SettingsHeight = 30;
 constexpr double CaptionWidth = 66;
 constexpr QRectF MessagePlace(Left, 327, Inner, 47);
 constexpr double ButtonsTop = 378;

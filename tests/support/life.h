@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <map>
+#include <random>
 #include <sstream>
 
 #include "core/basGame.h"
@@ -17,9 +18,10 @@ using enum Label;
 
 inline std::string MakeFolder()
 {
-    std::string pattern = (std::filesystem::temp_directory_path() / "torvenhall-XXXXXX").string();
-    EXPECT_NE(mkdtemp(pattern.data()), nullptr) << "no folder for the test's files";
-    return AddBackslash(pattern);
+    const std::string name = "torvenhall-" + std::to_string(std::random_device{}());
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / name;
+    EXPECT_TRUE(std::filesystem::create_directory(folder)) << "no folder for the test's files";
+    return AddBackslash(folder.string());
 }
 
 /// A test that plays: the scripted player and dice connected to rules that
@@ -32,7 +34,8 @@ protected:
     {
         // The game may have made its own folder the current one.
         std::filesystem::current_path(std::filesystem::temp_directory_path());
-        std::filesystem::remove_all(folder);
+        std::error_code isStillHeld; // the life in hand, where a held file cannot be deleted
+        std::filesystem::remove_all(folder, isStillHeld);
         Connect({});
     }
 

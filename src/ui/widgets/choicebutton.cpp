@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScreen>
 #include <QTextDocument>
 #include <QTextLayout>
 
@@ -58,6 +59,14 @@ void ChoiceButton::LightUp()
 {
     glow.Begin(GlowMilliseconds);
     update();
+}
+
+QPoint ChoiceButton::TipPlace() const
+{
+    const bool low = mapTo(window(), rect().center()).y() > window()->height() / 2;
+    const QPoint place(width() + Px(8), low ? height() - TipSize().height() : 0);
+    const int right = mapToGlobal(place).x() + TipSize().width();
+    return right < screen()->availableGeometry().right() ? place : GameButton::TipPlace();
 }
 
 QRectF ChoiceButton::TextPlace() const

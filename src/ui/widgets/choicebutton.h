@@ -33,6 +33,8 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     QRectF TextPlace() const override;
+    /// Beside the row: the others are to be read, too.
+    QPoint TipPlace() const override;
 
 private:
     void PaintPresent(QPainter& painter) const;

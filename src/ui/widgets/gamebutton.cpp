@@ -100,18 +100,24 @@ void GameButton::RefreshTip()
         const QTextLine line = layout.lineAt(i);
         lines << layout.text().mid(line.textStart(), line.textLength()).trimmed().toHtmlEscaped();
     }
+    constexpr double around = 18; // the words, on both sides together
+    tipSize = layout.boundingRect().toAlignedRect().size() + QSize(Px(around), Px(around));
     setToolTip("<p style='white-space:nowrap'>" + lines.join("<br>") + "</p>");
 }
 
 bool GameButton::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && !toolTip().isEmpty()) {
-        // Beneath it; the toolkit adds what the usual arrow of a mouse needs.
-        const QPoint beneath = rect().bottomLeft() + QPoint(Px(TipInset) - 2, Px(3) - 16);
-        QToolTip::showText(mapToGlobal(beneath), toolTip(), this);
+        // The toolkit adds what the usual arrow of a mouse needs.
+        QToolTip::showText(mapToGlobal(TipPlace()) - QPoint(2, 16), toolTip(), this);
         return true;
     }
     return QPushButton::event(event);
+}
+
+QPoint GameButton::TipPlace() const
+{
+    return rect().bottomLeft() + QPoint(Px(TipInset), Px(3));
 }
 
 bool GameButton::TextFits() const

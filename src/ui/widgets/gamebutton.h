@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPushButton>
+#include <QSize>
 
 #include "ui/widgets/glyphs.h"
 
@@ -32,6 +33,9 @@ public:
     /// What the tooltip and a screen reader say of it.
     void Explain(const QString& newExplanation);
     /// Whether the whole caption is on screen.
+    /// Where the explanation appears, its upper left corner: beneath the button.
+    virtual QPoint TipPlace() const;
+    QSize TipSize() const { return tipSize; }
     bool TextFits() const;
 
     QSize sizeHint() const override;
@@ -57,6 +61,7 @@ private:
 
     Glyph glyph = Glyph::None;
     Qt::Alignment alignment = Qt::AlignCenter;
+    QSize tipSize;
     QString explanation;
     bool muted = false;
     bool primary = false;
