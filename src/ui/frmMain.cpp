@@ -84,6 +84,7 @@ frmMain::frmMain() : scene(new RoomScene(Width, Height, this)), tmrTime(new QTim
     menuBar()->setNativeMenuBar(false);
     menuBar()->setFixedHeight(Px(MenuHeight));
     ChangeScaleByKeys(this);
+    StandWhereItStood(*this);
 
     BuildClock();
     BuildStatistics();
@@ -191,6 +192,14 @@ void frmMain::closeEvent(QCloseEvent* event)
     if (GameState.Restarting != True) {
         EnterRules(CloseProgram);
     }
+}
+
+void frmMain::hideEvent(QHideEvent* event)
+{
+    if (!event->spontaneous()) { // not minimised
+        RememberPlace(*this);
+    }
+    QMainWindow::hideEvent(event);
 }
 
 void frmMain::changeEvent(QEvent* event)

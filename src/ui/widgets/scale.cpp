@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <QSettings>
 #include <QShortcut>
 #include <QToolTip>
 #include <QWidget>
@@ -12,6 +11,7 @@
 
 #include "ui/widgets/metrics.h"
 #include "ui/widgets/placing.h"
+#include "ui/widgets/settings.h"
 
 namespace torvenhall
 {
@@ -34,12 +34,8 @@ QRect FreeArea()
     return screen ? screen->availableGeometry() : QRect();
 }
 
-QSettings Settings()
-{
-    return {QSettings::IniFormat, QSettings::UserScope, "torvenhall", "torvenhall"};
-}
-
 constexpr const char* Remembered = "scale";
+constexpr const char* RememberedPlace = "place";
 
 bool Fits(double scale, const QRect& area, double share)
 {
@@ -71,7 +67,7 @@ void Choose(double scale)
     if (scale != PlayerScale()) {
         ApplyScale(scale);
     }
-    Settings().setValue(Remembered, scale);
+    PlayerSettings().setValue(Remembered, scale);
 }
 
 void Larger()
@@ -89,7 +85,7 @@ void Smaller()
 void Fitting()
 {
     Choose(FittingScale(FreeArea()));
-    Settings().remove(Remembered); // on another screen something else fits
+    PlayerSettings().remove(Remembered); // on another screen something else fits
 }
 
 } // namespace
@@ -105,7 +101,7 @@ double FittingScale(const QRect& freeArea)
 
 void ChooseScale(std::optional<double> given)
 {
-    const double remembered = Settings().value(Remembered).toDouble();
+    const double remembered = PlayerSettings().value(Remembered).toDouble();
     const bool usable = remembered >= Steps.front() && remembered <= Steps.back() &&
                         Fits(remembered, FreeArea(), 1);
     ApplyScale(given.value_or(usable ? remembered : FittingScale(FreeArea())));
@@ -119,6 +115,25 @@ void ApplyScale(double scale)
     for (QWidget* window : QApplication::topLevelWidgets()) {
         FollowScale(*window);
         KeepOnScreen(*window);
+    }
+}
+
+void RememberPlace(const QWidget& window)
+{
+    if (QGuiApplication::platformName() != "offscreen") { // where nobody sees it
+        PlayerSettings().setValue(RememberedPlace, window.pos());
+    }
+}
+
+void StandWhereItStood(QWidget& window)
+{
+    const QVariant place = PlayerSettings().value(RememberedPlace);
+    const QRect frame(place.toPoint(), window.size() + QSize(FrameWidth, FrameHeight));
+    const auto holds = [&frame](const QScreen* screen) {
+        return screen->availableGeometry().contains(frame);
+    };
+    if (place.isValid() && std::ranges::any_of(QGuiApplication::screens(), holds)) {
+        window.move(place.toPoint());
     }
 }
 

@@ -27,4 +27,9 @@ void ApplyScale(double scale);
 /// too, and remember it.
 void ChangeScaleByKeys(QWidget* window);
 
+/// Where a window stands, for its next opening; it goes there only if that place,
+/// its frame included, is still on a screen.
+void RememberPlace(const QWidget& window);
+void StandWhereItStood(QWidget& window);
+
 } // namespace torvenhall
