@@ -14,9 +14,7 @@ file(GLOB pages ${usr}/share/man/man6/* ${usr}/share/man/*/man6/*)
 execute_process(COMMAND gzip -9n ${usr}/share/doc/torvenhall/changelog ${pages}
   COMMAND_ERROR_IS_FATAL ANY)
 
-# CPack itself asks for the time that is to stand in a package.
+# CPack itself gives every file in a package this time.
 if("$ENV{SOURCE_DATE_EPOCH}" STREQUAL "")
   set(ENV{SOURCE_DATE_EPOCH} ${CPACK_TORVENHALL_RELEASED})
 endif()
-execute_process(COMMAND find ${usr} -exec touch -h -d @$ENV{SOURCE_DATE_EPOCH} {} +
-  COMMAND_ERROR_IS_FATAL ANY)

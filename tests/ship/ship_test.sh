@@ -31,11 +31,18 @@ holds mandoc -T lint -W warning "${pages[@]}"
 
 # Every option that the program has is told of.
 options=$(env -u DISPLAY -u WAYLAND_DISPLAY "$work/usr/bin/torvenhall" --help | grep -o -- '--[a-z-]*')
-holds test -n "$options"
 for option in $options; do
     for page in "${pages[@]}"; do holds grep -qF -- "${option//-/\\-}" "$page"; done
-    holds grep -qE -- "$option\b" "$share/bash-completion/completions/torvenhall"
 done
+offered() {
+    # shellcheck source=packaging/torvenhall.bash
+    . "$share/bash-completion/completions/torvenhall"
+    COMP_WORDS=(torvenhall --)
+    COMP_CWORD=1
+    _torvenhall
+    printf '%s\n' "${COMPREPLY[@]}"
+}
+holds diff <(offered | sort) <(printf '%s\n' "$options" | sort)
 
 # The same bytes, however late and wherever they are packed.
 for time in now later; do
