@@ -14,6 +14,9 @@ file(GLOB pages ${usr}/share/man/man6/* ${usr}/share/man/*/man6/*)
 execute_process(COMMAND gzip -9n ${usr}/share/doc/torvenhall/changelog ${pages}
   COMMAND_ERROR_IS_FATAL ANY)
 
+# Whoever packs it, everybody can read it.
+execute_process(COMMAND chmod -R u=rwX,go=rX ${usr} COMMAND_ERROR_IS_FATAL ANY)
+
 # CPack itself gives every file in a package this time.
 if("$ENV{SOURCE_DATE_EPOCH}" STREQUAL "")
   set(ENV{SOURCE_DATE_EPOCH} ${CPACK_TORVENHALL_RELEASED})

@@ -44,7 +44,7 @@ offered() {
 }
 holds diff <(offered | sort) <(printf '%s\n' "$options" | sort)
 
-# The same bytes, however late and wherever they are packed.
+# The same bytes, whenever and wherever they are packed.
 for time in now later; do
     holds cpack -G DEB --config "$1/CPackConfig.cmake" -B "$work/$time" -D CPACK_DEBIAN_COMPRESSION_TYPE=gzip
 done
