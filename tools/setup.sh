@@ -19,8 +19,13 @@ libfontconfig-dev|libfontconfig1-dev    -
 fonts-paratype          -
 fonts-dejavu-core|fonts-liberation|fonts-liberation2    -
 "
+# What a Debian package of it needs besides.
+readonly DEB_NEEDS="
+dpkg-dev                dpkg-shlibdeps
+file                    file
+"
 # What its tests need besides.
-readonly TEST_NEEDS="
+readonly TEST_NEEDS="$DEB_NEEDS
 libgtest-dev            -
 xvfb                    xvfb-run
 xauth                   xauth
@@ -32,6 +37,10 @@ python3-pyatspi         -
 g++-mingw-w64-x86-64-posix  x86_64-w64-mingw32-g++-posix
 python3                 python3
 strace                  strace
+desktop-file-utils      desktop-file-validate
+appstream               appstreamcli
+mandoc                  mandoc
+lintian                 lintian
 "
 # What the full numbers of the reliability checks need besides.
 readonly LONG_NEEDS="
