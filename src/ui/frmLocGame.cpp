@@ -1,8 +1,11 @@
 #include "ui/frmLocGame.h"
 
+#include <QDir>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include "system/basSystem.h"
 #include "ui/widgets/cats.h"
 #include "ui/widgets/gamelist.h"
 #include "ui/widgets/placing.h"
@@ -29,6 +32,7 @@ frmLocGame::frmLocGame(const GameNameQuestion& question, QWidget* parent)
     Surface().AddPanel({12, 12, 356, 306}, Scene::Panel::Deep);
     AddLabel("Label1", Text(question.heading), {26, 44, 328 - CatSide - 16, 24}, TextType(15, true))
         ->SetColour(colour::Warm);
+    AddFolder();
     AddEntries(question);
 
     GameButton* confirm = AddButton("Command1", Text(question.confirm), {136, 276, 118, 30});
@@ -47,6 +51,20 @@ frmLocGame::frmLocGame(const GameNameQuestion& question, QWidget* parent)
     } else {
         list->setFocus();
     }
+}
+
+/// Where the saved games lie; of a long path the end.
+void frmLocGame::AddFolder()
+{
+    const QRectF place(26, 24, 328 - CatSide - 16, 16);
+    const QString path = QDir::toNativeSeparators(Text(DataDirectory() + "SAVE"));
+    const Type type = TextType(10.5);
+    GameLabel* folder = AddLabel(
+        "Folder",
+        QFontMetrics(type.Font()).elidedText("Папка: " + path, Qt::ElideMiddle, Px(place.width())),
+        place, type);
+    folder->SetColour(colour::Faint);
+    folder->setToolTip(path);
 }
 
 void frmLocGame::AddEntries(const GameNameQuestion& question)

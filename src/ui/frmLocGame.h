@@ -24,6 +24,7 @@ protected:
     void reject() override;
 
 private:
+    void AddFolder();
     void AddEntries(const GameNameQuestion& question);
 
     GameList* list;

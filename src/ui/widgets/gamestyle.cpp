@@ -101,6 +101,14 @@ void PaintScrollBar(QPainter& painter, const QStyle& style, const QStyleOptionSl
 {
     QRectF handle =
         style.subControlRect(QStyle::CC_ScrollBar, &bar, QStyle::SC_ScrollBarSlider, widget);
+    const QRectF groove =
+        style.subControlRect(QStyle::CC_ScrollBar, &bar, QStyle::SC_ScrollBarGroove, widget);
+    if (bar.orientation == Qt::Vertical && groove.height() > 0) {
+        // It has no arrows, whose room the toolkit leaves all the same.
+        const double stretch = bar.rect.height() / groove.height();
+        handle = {handle.left(), (handle.top() - groove.top()) * stretch, handle.width(),
+                  handle.height() * stretch};
+    }
     painter.fillRect(bar.rect, QColor(7, 12, 19));
     const double in = std::max(1, Px(2));
     handle.adjust(in, in, -in, -in);
