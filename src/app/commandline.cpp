@@ -107,6 +107,12 @@ std::optional<double> NumberIn(const QString& text, double least, double most)
     return isNumber && number >= least && number <= most ? std::optional(number) : std::nullopt;
 }
 
+/// Makes the folder if it is missing.
+bool CanWriteIn(const QString& folder)
+{
+    return QDir().mkpath(folder) && QFileInfo(folder).isWritable();
+}
+
 /// The game changes the current directory.
 QString Absolute(const QString& path)
 {
@@ -157,10 +163,15 @@ CommandLine ReadCommandLine(const QStringList& arguments)
         return Refused(
             Said("--scale: нужно число от 1 до 4", "--scale wants a number from 1 to 4"));
     }
-    if (parser.isSet(data) && !QDir().mkpath(line.dataFolder)) {
-        std::cerr << "torvenhall: " << Utf8(line.dataFolder) << ": "
-                  << Said("такой папки не создать", "this folder cannot be made") << '\n';
-        return Ended(Failed);
+    for (const auto& [option, folder] :
+         {std::pair(&data, &line.dataFolder), {&tour, &line.tourFolder}}) {
+        if (parser.isSet(*option) && !CanWriteIn(*folder)) {
+            std::cerr << "torvenhall: " << Utf8(*folder) << ": "
+                      << Said("в такую папку не записать",
+                              "nothing can be written into this folder")
+                      << '\n';
+            return Ended(Failed);
+        }
     }
     if (parser.isSet(font)) {
         constexpr double smallest = 4, largest = 96;

@@ -15,6 +15,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <iostream>
 
 #include "app/samplelives.h"
 #include "core/basGame.h"
@@ -76,7 +77,10 @@ private:
     void Save(const QString& name, QWidget* window)
     {
         Settle();
-        if (!window || !Photograph(*window).save(directory.filePath(name + ".png"))) {
+        const QString file = directory.filePath(name + ".png");
+        if (!window || !Photograph(*window).save(file)) {
+            std::cerr << "torvenhall: " << Utf8(file) << ": "
+                      << (window ? "cannot be written" : "the window did not open") << '\n';
             failed = true;
         }
     }

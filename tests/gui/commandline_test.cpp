@@ -14,6 +14,7 @@ TEST(CommandLine, AnswersWithoutADisplayOrTellsWhatIsWrong)
         {{"no such game"}, 1, "no such game"},
         {{"--no-such-option"}, 2, "no-such-option"},
         {{"--tour"}, 2, ""},
+        {{"--tour", "/proc/pictures"}, 1, "/proc/pictures"},
         {{"--scale", "9"}, 2, "--scale"},
         {{known, known}, 2, ""},
         {{"--still", "--scale", "2", known}, std::nullopt, ""},
